@@ -1,0 +1,14 @@
+#include "core/program.h"
+
+namespace brindlepage {
+
+void ProgramForm::StepTo(Screen next) {
+  forms().Show(next);
+  Unload();
+}
+
+void ProgramForm::LoadBackground() {
+  Picture = LoadPicture(shared.ProgramDir + "\\brindlepagebackground.jpg");
+}
+
+}  // namespace brindlepage

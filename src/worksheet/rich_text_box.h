@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/control.h"
+#include "worksheet/rich_text.h"
+
+namespace brindlepage {
+
+// The rich text box as a control: a document with its caret. Views watch the document itself.
+class RichTextBox : public Control, public RichText, private RichTextObserver {
+ public:
+  // The text of a box that nothing has filled.
+  static constexpr char kDesignText[] = "RichTextBox1";
+
+  RichTextBox(Form& form, std::string name, std::string design_font, double design_points);
+  ~RichTextBox() override;
+
+  // The caret or the selection moved. Unset while a document is composed.
+  Event<> SelChange;
+
+  std::optional<brindlepage::Value> Find(std::string_view property) const override;
+
+ private:
+  void Replaced(int, int, int) override {}
+  void Reformatted(int, int) override {}
+  void ParagraphsAligned(int, int) override {}
+  void CaretMoved() override { SelChange(); }
+};
+
+}  // namespace brindlepage

@@ -1,0 +1,72 @@
+#include "worksheet/study_guide_form.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr WorksheetDesign kDesign = {
+    .id = Screen::StudyGuideForm,
+    .name = "StudyGuideForm",
+    .caption = "Study Guide",
+    .has_key_button = false,
+    .name_line = compose::NameLine::Widest,
+    .resize_key_box = false,
+};
+
+void WriteHeading(const SharedState& shared, RichText& box) {
+  box.Text("");
+  box.SelFontSize(10);
+  box.SelFontName(compose::kTimes);
+  box.SelAlignment(Alignment::Centre);
+  compose::WriteNameDateLine(box, kDesign.name_line);
+  compose::WriteTitleBlock(box, shared.WorksheetTitle);
+  compose::CaretToEnd(box);
+  box.SelFontSize(12);
+  box.SelBold(false);
+  box.SelAlignment(Alignment::Left);
+}
+
+void MoveMarkedWordsToFront(SharedState& shared) {
+  int place = 1;
+  for (int word = 1; word <= shared.ListWordCount; ++word) {
+    if (shared.WordMarks(word) != 1) continue;
+    shared.ListWords(place) = shared.ListWords(word);
+    shared.ListMeanings(place) = shared.ListMeanings(word);
+    ++place;
+  }
+}
+
+void WriteEntry(RichText& box, int number, const std::string& word, const std::string& meaning) {
+  compose::AppendRun(box, DisplayForm(number) + ")  ");
+  box.SelUnderline(true);
+  box.SelBold(true);
+  compose::AppendRun(box, word + ":");
+  box.SelUnderline(false);
+  box.SelBold(false);
+  compose::AppendRun(box, "  " + meaning + "\n\n");
+}
+
+}  // namespace
+
+StudyGuideForm::StudyGuideForm(Program& owner) : WorksheetForm(owner, kDesign) {}
+
+void StudyGuideForm::Load() {
+  PrepareWorksheet();
+  ComposeStudySheet(shared, QuizBox);
+  FinishWorksheetLoad();
+}
+
+void ComposeStudySheet(SharedState& shared, RichText& box) {
+  WriteHeading(shared, box);
+  BuildStudyList(shared, box);
+}
+
+void BuildStudyList(SharedState& shared, RichText& box) {
+  MoveMarkedWordsToFront(shared);
+  compose::AppendRun(box, "\n\n\n");
+  for (int number = 1; number <= shared.MarkedCount; ++number) {
+    WriteEntry(box, number, shared.ListWords(number), shared.ListMeanings(number));
+  }
+}
+
+}  // namespace brindlepage
