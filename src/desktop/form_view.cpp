@@ -1,0 +1,362 @@
+#include "desktop/form_view.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/arranger.h"
+#include "desktop/picture_view.h"
+#include "desktop/style.h"
+#include "desktop/text.h"
+#include "toolkit/controls.h"
+#include "toolkit/lists.h"
+#include "worksheet/rich_text_box.h"
+
+namespace brindlepage {
+
+namespace {
+
+// Pixels.
+constexpr int kPanelWidth = 820;
+constexpr int kPanelHeight = 860;
+constexpr int kPanelRoom = 28;
+constexpr int kPageRoom = 24;
+constexpr int kBoxRoom = 24;
+constexpr int kNarrowestBox = 320;
+constexpr int kBackdropContentWidth = 900;
+constexpr double kQuietPart = 0.605;  // of a backdrop's width
+
+template <class Kind>
+bool Is(const Control* control) {
+  return dynamic_cast<const Kind*>(control) != nullptr;
+}
+
+// An option button or a check box whose caption is the label beside it.
+bool IsBareMark(const Control* control) {
+  if (const auto* option = dynamic_cast<const OptionButton*>(control)) {
+    return option->Caption().empty();
+  }
+  const auto* check = dynamic_cast<const CheckBox*>(control);
+  return check != nullptr && check->Caption().empty();
+}
+
+// Labels by the mark that they stand beside.
+void CollectPartners(const Arrangement& part, std::map<const Control*, Control*>& partners) {
+  const Control* mark = nullptr;
+  for (const Arrangement& inside : part.parts) {
+    if (mark != nullptr && Is<Label>(inside.control)) {
+      partners[inside.control] = const_cast<Control*>(mark);
+    }
+    mark = IsBareMark(inside.control) ? inside.control : nullptr;
+    CollectPartners(inside, partners);
+  }
+}
+
+// Labels that have a column's width to themselves, or a share of the room.
+void CollectWrapping(const Arrangement& part, std::map<const Control*, bool>& wraps) {
+  for (const Arrangement& inside : part.parts) {
+    if (Is<Label>(inside.control)) {
+      wraps[inside.control] = part.kind == Arrangement::Kind::Column || inside.weight > 0;
+    }
+    CollectWrapping(inside, wraps);
+  }
+}
+
+// The arrangement without the toolbars at its top.
+Arrangement WithoutToolbars(Arrangement page) {
+  std::erase_if(page.parts, [](const Arrangement& part) { return Is<Toolbar>(part.control); });
+  return page;
+}
+
+// All together in the middle of the height; grids take most of what is left over.
+Arrangement Gathered(Arrangement page) {
+  for (Arrangement& part : page.parts) {
+    if (part.kind == Arrangement::Kind::Spring) part = Gap();
+    if (part.kind == Arrangement::Kind::Grid) part.weight = 24;
+  }
+  page.parts.insert(page.parts.begin(), Spring());
+  page.parts.push_back(Spring());
+  return page;
+}
+
+bool HasRichText(const Arrangement& page) {
+  bool found = false;
+  ForEachControl(page, [&](Control& control) { found = found || Is<RichTextBox>(&control); });
+  return found;
+}
+
+}  // namespace
+
+FormView::FormView(Form& form, Loop& loop, QWidget* parent)
+    : QWidget(parent), form_(&form), loop_(loop) {
+  setObjectName(ToQString(form.Name()));
+  setFocusPolicy(Qt::NoFocus);
+  MakeViews();
+  LayOutPage();
+  SetTabOrder();
+  SyncAll();
+}
+
+void FormView::Detach() {
+  for (auto& [control, view] : views_) view->Detach();
+  if (menu_bar_ != nullptr) menu_bar_->Detach();
+  arranged_.clear();
+  focus_shown_ = nullptr;
+  backdrop_ = nullptr;
+  form_ = nullptr;
+}
+
+ControlView* FormView::Find(Control& control) const {
+  const auto view = views_.find(&control);
+  return view == views_.end() ? nullptr : view->second.get();
+}
+
+Control* FormView::Holder(const QWidget* widget) const {
+  if (form_ == nullptr) return nullptr;
+  // The innermost, since a frame holds others.
+  for (; widget != nullptr && widget != this; widget = widget->parentWidget()) {
+    for (const auto& [control, view] : views_) {
+      if (view->widget() == widget) return control;
+    }
+  }
+  return nullptr;
+}
+
+void FormView::MakeViews() {
+  std::map<const Control*, Control*> partners;
+  std::map<const Control*, bool> wraps;
+  const Arrangement& page = form_->arrangement();
+  CollectPartners(page, partners);
+  CollectWrapping(page, wraps);
+  ForEachControl(page, [&](Control& control) { arranged_.push_back(&control); });
+
+  // Letters go to the menus first, then to the controls as they stand on the page, and to the
+  // toolbars last.
+  if (MenuBar::HasMenus(*form_)) menu_bar_ = new MenuBar(*form_, loop_, letters_, this);
+  const auto make = [&](auto wanted) {
+    for (Control* control : arranged_) {
+      if (views_.count(control) || !wanted(control)) continue;
+      const auto partner = partners.find(control);
+      QWidget* mark = partner == partners.end() ? nullptr : views_[partner->second]->widget();
+      MakeView(*control, mark, wraps[control]);
+    }
+  };
+  make([](Control* control) { return IsBareMark(control); });
+  make([](Control* control) { return !Is<Toolbar>(control); });
+  make([](Control*) { return true; });
+
+  for (Control* control : form_->Controls()) {
+    const bool backdrop = Is<Image>(control) && control->Name() == "Image1";
+    if (backdrop && views_.count(control) == 0) backdrop_ = control;
+  }
+}
+
+void FormView::MakeView(Control& control, QWidget* partner, bool wraps) {
+  views_[&control] = MakeControlView(control, {loop_, letters_, this, partner, wraps});
+}
+
+void FormView::LayOutPage() {
+  auto* page = new QVBoxLayout(this);
+  page->setContentsMargins(0, 0, 0, 0);
+  page->setSpacing(0);
+  if (menu_bar_ != nullptr) page->addWidget(menu_bar_);
+  for (const Arrangement& part : form_->arrangement().parts) {
+    if (Is<Toolbar>(part.control)) page->addWidget(Find(*part.control)->widget());
+  }
+
+  Arrangement rest = WithoutToolbars(form_->arrangement());
+  if (backdrop_ != nullptr) rest = Gathered(std::move(rest));
+  QLayout* content = LayOut(rest, [this](Control& control) { return Find(control)->widget(); });
+  if (HasRichText(rest)) {
+    content->setSpacing(0);
+    PutBarsOnStrips(*static_cast<QBoxLayout*>(content));
+    page->addLayout(content, 1);
+  } else if (form_->kind() == FormKind::Box) {
+    setMinimumWidth(kNarrowestBox);
+    content->setContentsMargins(kBoxRoom, kBoxRoom, kBoxRoom, kBoxRoom - 4);
+    page->addLayout(content, 1);
+  } else if (backdrop_ != nullptr) {
+    AddOnBackdrop(*page, content);
+  } else {
+    AddPanel(*page, content, WantsRoom(rest));
+  }
+}
+
+// The rows of controls above a document.
+void FormView::PutBarsOnStrips(QBoxLayout& content) {
+  for (int i = 0; i < content.count(); ++i) {
+    QLayout* bar = content.itemAt(i)->layout();
+    if (bar == nullptr) continue;
+    content.takeAt(i);
+    bar->setParent(nullptr);
+    bar->setContentsMargins(14, 6, 14, 6);
+    auto* strip = new QFrame(this);
+    strip->setObjectName("FontStrip");
+    strip->setLayout(bar);
+    content.insertWidget(i, strip);
+  }
+}
+
+void FormView::AddPanel(QBoxLayout& page, QLayout* content, bool wants_room) {
+  auto* panel = new QFrame(this);
+  panel->setObjectName("Panel");
+  panel->setMaximumSize(kPanelWidth, kPanelHeight);
+  panel->lower();
+  content->setContentsMargins(kPanelRoom, kPanelRoom - 4, kPanelRoom, kPanelRoom - 4);
+  panel->setLayout(content);
+
+  auto* across = new QHBoxLayout;
+  across->setContentsMargins(kPageRoom, 0, kPageRoom, 0);
+  across->addStretch(1);
+  across->addWidget(panel, 1000);
+  across->addStretch(1);
+  page.addSpacing(kPageRoom);
+  page.addStretch(2);
+  page.addLayout(across, wants_room ? 1000 : 0);
+  page.addStretch(3);
+  page.addSpacing(kPageRoom);
+}
+
+void FormView::AddOnBackdrop(QBoxLayout& page, QLayout* content) {
+  backdrop_content_ = new QWidget(this);
+  backdrop_content_->setProperty("backdrop", true);
+  backdrop_content_->setLayout(content);
+  auto* across = new QHBoxLayout;
+  across->setContentsMargins(0, 0, 0, 0);
+  across->addWidget(backdrop_content_);
+  across->addStretch(1);
+  page.addLayout(across, 1);
+}
+
+void FormView::SetTabOrder() {
+  QWidget* before = nullptr;
+  const auto chain = [&](bool toolbars) {
+    for (Control* control : arranged_) {
+      ControlView* view = Find(*control);
+      if (Is<Toolbar>(control) != toolbars) continue;
+      QList<QWidget*> stops{view->widget()};
+      if (toolbars) stops = view->widget()->findChildren<QWidget*>();
+      for (QWidget* stop : stops) {
+        if (before != nullptr) QWidget::setTabOrder(before, stop);
+        before = stop;
+      }
+    }
+  };
+  chain(false);
+  chain(true);
+}
+
+PicturePtr FormView::Background() const {
+  if (const auto* image = dynamic_cast<const Image*>(backdrop_)) return image->Picture;
+  return form_->Picture;
+}
+
+void FormView::SyncForm() {
+  if (form_ == nullptr) return;
+  if (menu_bar_ != nullptr) menu_bar_->Sync();
+  const PicturePtr background = Background();
+  if (background == background_) return;
+  background_ = background;
+  update();
+}
+
+void FormView::SyncAll() {
+  SyncForm();
+  for (auto& [control, view] : views_) view->Sync();
+}
+
+void FormView::SyncFocus() {
+  if (form_ == nullptr) return;
+  Control* focused = form_->Focused();
+  if (focused == nullptr && !focus_set_) focused = FirstField();
+  if (focused == nullptr) return;
+  ControlView* view = Find(*focused);
+  if (view == nullptr || !view->widget()->isVisibleTo(this)) return;
+  QWidget* now = focusWidget();
+  const bool has_it =
+      now != nullptr && (now == view->widget() || view->widget()->isAncestorOf(now));
+  if (has_it && focus_set_ && focus_shown_ == focused) return;
+  // What a field proposes gives way to what is typed.
+  auto* line = qobject_cast<QLineEdit*>(view->widget());
+  if (line != nullptr && !focus_set_) line->selectAll();
+  focus_shown_ = focused;
+  focus_set_ = true;
+  if (!has_it || !view->widget()->hasFocus()) view->widget()->setFocus(Qt::TabFocusReason);
+}
+
+Control* FormView::FirstField() const {
+  Control* first_button = nullptr;
+  for (Control* control : arranged_) {
+    ControlView* view = Find(*control);
+    if (Is<Toolbar>(control) || !control->CanAct()) continue;
+    if (!(view->widget()->focusPolicy() & Qt::TabFocus)) continue;
+    if (!Is<CommandButton>(control)) return control;
+    if (first_button == nullptr) first_button = control;
+  }
+  return first_button;
+}
+
+bool FormView::CanClick(bool default_button) const {
+  return std::any_of(form_->Controls().begin(), form_->Controls().end(),
+                     [&](const Control* control) {
+                       const auto* button = dynamic_cast<const CommandButton*>(control);
+                       if (button == nullptr || !button->CanAct()) return false;
+                       return default_button ? button->Default() : button->Cancel();
+                     });
+}
+
+void FormView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette::kPaper);
+  painter.drawPixmap(0, 0, CoveringPicture(background_, size(), devicePixelRatioF()));
+}
+
+void FormView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (on_resize) on_resize();
+  if (backdrop_content_ == nullptr) return;
+  const int left = qMax(kPageRoom, width() / 28);
+  const int content = qMin(static_cast<int>(width() * kQuietPart) - left, kBackdropContentWidth);
+  backdrop_content_->layout()->setContentsMargins(left, kPageRoom / 2, 0, kPageRoom / 2);
+  backdrop_content_->setFixedWidth(left + content);
+}
+
+void FormView::keyPressEvent(QKeyEvent* event) {
+  if (form_ == nullptr || event->isAutoRepeat()) return;
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool escape = event->key() == Qt::Key_Escape;
+  Form& form = *form_;
+  if (auto* tool = qobject_cast<QToolButton*>(focusWidget()); tool != nullptr && enter) {
+    return tool->click();
+  }
+  Control* focused = form.Focused();
+  const bool used = focused != nullptr && focused->CanAct() &&
+                    (Is<CommandButton>(focused) || Is<TextBox>(focused) || Is<ListBox>(focused));
+  if ((enter || escape) && (used || CanClick(enter))) {
+    return loop_.Act(form, [&] {
+      if (focused != nullptr && focused->CanAct()) {
+        focused->Press(enter ? Key::Enter : Key::Escape);
+      } else {
+        enter ? form.ClickDefault() : form.ClickCancel();
+      }
+    });
+  }
+  const bool modifier = event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control ||
+                        event->key() == Qt::Key_Alt || event->key() == Qt::Key_Meta ||
+                        event->key() == Qt::Key_AltGr;
+  if (!modifier) loop_.Act(form, [&] { loop_.runtime().forms().Key(form); });
+}
+
+void FormView::mousePressEvent(QMouseEvent* event) {
+  if (form_ == nullptr || event->button() != Qt::LeftButton) return;
+  Form& form = *form_;
+  loop_.Act(form, [&] { loop_.runtime().forms().Click(form); });
+}
+
+}  // namespace brindlepage

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "desktop/control_view.h"
+#include "desktop/loop.h"
+#include "desktop/menu_bar.h"
+#include "desktop/mnemonics.h"
+#include "toolkit/form.h"
+
+class QBoxLayout;
+
+namespace brindlepage {
+
+// Shows any form: its controls as they are arranged, on its background.
+//
+// A form with rich text boxes fills the page with them. Another screen stands on a calm panel in
+// the middle, so that it can be read over its picture. An image named "Image1" outside of the
+// arrangement is the backdrop of the page; the controls then keep to its left, quiet part.
+class FormView : public QWidget {
+ public:
+  FormView(Form& form, Loop& loop, QWidget* parent = nullptr);
+
+  // Null once detached.
+  Form* form() const { return form_; }
+  // The form goes: nothing of it is touched after this.
+  void Detach();
+
+  // The view of the control, or null if it isn't shown.
+  ControlView* Find(Control& control) const;
+  // The control whose widget is `widget` or holds it, or null.
+  Control* Holder(const QWidget* widget) const;
+
+  // Brings what belongs to no control's widget up to date: background, menus.
+  void SyncForm();
+  void SyncAll();
+  // Gives the keys to the control that has the focus; at first to the first field.
+  void SyncFocus();
+
+  std::function<void()> on_resize;
+  // The size that the form was told last.
+  QSize told_size;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void MakeViews();
+  void MakeView(Control& control, QWidget* partner, bool wraps);
+  void LayOutPage();
+  void PutBarsOnStrips(QBoxLayout& content);
+  void AddPanel(QBoxLayout& page, QLayout* content, bool wants_room);
+  void AddOnBackdrop(QBoxLayout& page, QLayout* content);
+  void SetTabOrder();
+  Control* FirstField() const;
+  bool CanClick(bool default_button) const;
+  PicturePtr Background() const;
+
+  Form* form_;
+  Loop& loop_;
+  Mnemonics letters_;
+  std::vector<Control*> arranged_;  // as they stand on the page, which is the Tab key's order
+  Control* backdrop_ = nullptr;
+  MenuBar* menu_bar_ = nullptr;
+  QWidget* backdrop_content_ = nullptr;
+  std::map<Control*, std::unique_ptr<ControlView>> views_;
+  Control* focus_shown_ = nullptr;
+  bool focus_set_ = false;
+
+  PicturePtr background_;
+};
+
+}  // namespace brindlepage

@@ -1,0 +1,19 @@
+#include <QApplication>
+
+#include "desktop/desktop.h"
+#include "desktop/style.h"
+
+// brindlepage: the teacher's program. It works in the folder that it is started in.
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(brindlepage::kProgramName);
+  QApplication::setQuitOnLastWindowClosed(false);
+  brindlepage::ApplyStyle(application);
+
+  brindlepage::Desktop desktop;
+  QObject::connect(&desktop.loop(), &brindlepage::Loop::Ended, &application,
+                   &QCoreApplication::quit);
+  desktop.Start();
+  if (!desktop.program().Ended()) QApplication::exec();
+  return desktop.program().Status();
+}

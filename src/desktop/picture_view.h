@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QIcon>
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+#include "toolkit/picture.h"
+
+namespace brindlepage {
+
+// The picture decoded; a null image where there is none or its kind can't be shown here.
+QImage DecodePicture(const PicturePtr& picture);
+
+// The picture as it covers a page of that size, its right and lower edges showing. Kept for the
+// next page with the same picture.
+QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio);
+
+// Shows a picture as large as fits, or while there is none a drawing.
+class PictureView : public QWidget {
+ public:
+  PictureView(const QIcon& icon, QWidget* parent);
+
+  void Show(const PicturePtr& picture);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return {32, 32}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QIcon icon_;
+  PicturePtr picture_;
+  QImage image_;
+};
+
+}  // namespace brindlepage

@@ -1,0 +1,159 @@
+#include "desktop/qt_platform.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QScreen>
+#include <algorithm>
+
+#include "desktop/boxes.h"
+#include "desktop/command_line.h"
+#include "desktop/rich_text_view.h"
+#include "desktop/text.h"
+#include "toolkit/files.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+// "Programs (*.exe)|*.exe|Pictures|*.bmp;*.jpg" as Qt writes it.
+QString ToQtFilter(std::string_view filter) {
+  const QStringList parts = ToQString(filter).split('|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    const QString name = parts[i].section('(', 0, 0).trimmed();
+    filters << QString("%1 (%2)").arg(name, QString(parts[i + 1]).replace(';', ' '));
+  }
+  return filters.join(";;");
+}
+
+bool InCodePage(const QString& text) {
+  const std::u32string characters = text.toStdU32String();
+  return std::all_of(characters.begin(), characters.end(),
+                     [](char32_t c) { return code_page::FromUnicode(c).has_value(); });
+}
+
+QString NativeName(std::string_view name) {
+  return QString::fromStdU32String(files::NativePath(name).u32string());
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform(Loop& loop, Windows& windows) : loop_(loop), windows_(windows) {
+  connect(&loop, &Loop::Ended, this, [] {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* dialog = qobject_cast<QDialog*>(window);
+      if (dialog != nullptr && dialog->isModal() && dialog->isVisible()) dialog->reject();
+    }
+  });
+}
+
+QtPlatform::~QtPlatform() = default;
+
+void QtPlatform::PrepareForBox() {
+  windows_.Flush();
+  loop_.TakeStock();
+}
+
+bool QtPlatform::Run(QDialog& dialog) {
+  PrepareForBox();
+  return dialog.exec() == QDialog::Accepted;
+}
+
+BoxAnswer QtPlatform::MessageBox(std::string_view text, std::string_view title,
+                                 BoxButtons buttons) {
+  PrepareForBox();
+  return AskMessage(ToQString(title), ToQString(text), buttons, windows_.Front());
+}
+
+std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view default_text) {
+  LineBox box(ToQString(title), ToQString(prompt), ToQString(default_text), windows_.Front());
+  if (!Run(box)) return std::nullopt;
+  return FromQString(box.Text());
+}
+
+QPrinter& QtPlatform::Printer() {
+  if (printer_ == nullptr) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+std::optional<PrintChoice> QtPlatform::PrintDialog(unsigned flags) {
+  QPrinter& printer = Printer();
+  printer.setPrintRange(QPrinter::AllPages);
+  QPrintDialog dialog(&printer, windows_.Front());
+  dialog.setOption(QAbstractPrintDialog::PrintSelection, !(flags & kPrintNoSelection));
+  dialog.setOption(QAbstractPrintDialog::PrintPageRange, !(flags & kPrintNoPageNumbers));
+  dialog.setOption(QAbstractPrintDialog::PrintToFile, !(flags & kPrintNoFile));
+  if (!Run(dialog)) return std::nullopt;
+  return printer.printRange() == QPrinter::Selection ? PrintChoice::Selection : PrintChoice::All;
+}
+
+void QtPlatform::Print(Control& box, int start, int length) {
+  if (auto* rich = dynamic_cast<RichTextBox*>(&box)) {
+    PrintRichText(*rich, start, length, Printer());
+  }
+}
+
+std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::string_view filter,
+                                                  std::string_view folder) {
+  QFileDialog dialog(windows_.Front(), ToQString(title));
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (!filter.empty()) dialog.setNameFilter(ToQtFilter(filter));
+  if (!folder.empty()) dialog.setDirectory(NativeName(folder));
+  if (!Run(dialog) || dialog.selectedFiles().isEmpty()) return std::nullopt;
+  return FromQString(dialog.selectedFiles().front());
+}
+
+void QtPlatform::StartProgram(std::string_view command_line) {
+  const CommandLine command = SplitCommandLine(command_line);
+  if (command.program.empty()) throw RunTimeError(Fault::FileNotFound);
+  QStringList files;
+  for (const std::string& file : command.files) files << NativeName(file);
+  if (!QProcess::startDetached(NativeName(command.program), files)) {
+    throw RunTimeError(Fault::FileNotFound);
+  }
+}
+
+void QtPlatform::Beep() { QApplication::beep(); }
+
+Size QtPlatform::ScreenSize() const {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (screen == nullptr) return {};
+  const QSize pixels = screen->availableSize();
+  return {pixels.width() * kTwipsPerPixel, pixels.height() * kTwipsPerPixel};
+}
+
+std::vector<std::string> QtPlatform::ScreenFonts() const {
+  std::vector<std::string> fonts;
+  for (const QString& family : QFontDatabase::families()) {
+    if (QFontDatabase::isPrivateFamily(family) || !InCodePage(family)) continue;
+    fonts.push_back(FromQString(family));
+  }
+  if (fonts.empty()) fonts.push_back(FromQString(QApplication::font().family()));
+  return fonts;
+}
+
+void QtPlatform::FatalError(int number, std::string_view text) {
+  PrepareForBox();
+  const QString message = QString("Run-time error '%1':\n\n%2").arg(number).arg(ToQString(text));
+  AskMessage(kProgramName, message, BoxButtons::Ok, windows_.Front());
+  windows_.FlushSoon();
+}
+
+bool QtPlatform::AskToWait() {
+  // The handler that draws is in the middle of its work: no timer may run in it.
+  const Loop::TimersHeld held(loop_);
+  ChoiceBox box(kProgramName,
+                "Brindlepage has been at work on this for a while and may never get done. You can "
+                "go on waiting, or close the program.",
+                {"Wait", "Close the program"}, 0, windows_.Front());
+  return box.Ask() == 0;
+}
+
+}  // namespace brindlepage

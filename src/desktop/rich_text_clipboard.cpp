@@ -1,0 +1,87 @@
+#include "desktop/rich_text_clipboard.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QString>
+#include <algorithm>
+
+namespace brindlepage {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;  // at 96 dots to the inch
+
+std::shared_ptr<const RichPicture> PictureOf(const QImage& image, int widest) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  auto picture = std::make_shared<RichPicture>();
+  picture->format = "png";
+  picture->bytes = bytes.toStdString();
+  picture->width = std::min(image.width() * kTwipsPerPixel, widest);
+  picture->height = static_cast<int>(
+      std::max<qint64>(qint64{image.height()} * picture->width / image.width(), 1));
+  return picture;
+}
+
+// A line break within a paragraph ends it here.
+std::u32string PlainText(const QMimeData& data) {
+  std::u32string text = data.text().toStdU32String();
+  std::replace(text.begin(), text.end(), char32_t{QChar::LineSeparator}, U'\n');
+  return text;
+}
+
+}  // namespace
+
+RichTextMimeData::RichTextMimeData(const RichText& text, int start, int end) {
+  std::u32string plain;
+  const CharFormat* before = nullptr;
+  for (int i = start; i < end; ++i) {
+    const CharFormat& format = text.FormatAt(i);
+    if (&format != before) runs_.push_back({{}, format});
+    before = &format;
+    const char32_t c = text.CharacterAt(i);
+    runs_.back().text.push_back(c);
+    if (c == U'\n') alignments_.push_back(text.AlignmentAt(i));
+    if (!format.picture) plain.push_back(c);
+  }
+  setText(QString::fromStdU32String(plain));
+}
+
+void RichTextMimeData::InsertInto(RichText& text) const {
+  const int start = text.SelStart();
+  const bool opens_paragraph = start == 0 || text.CharacterAt(start - 1) == U'\n';
+  text.Replace(start, text.SelLength(), {}, text.CaretFormat());
+  int end = start;
+  for (const Run& run : runs_) {
+    text.Replace(end, 0, run.text, run.format);
+    end += static_cast<int>(run.text.size());
+  }
+  // A first paragraph that is only joined to what stands there takes the alignment of that.
+  std::size_t paragraph = 0;
+  for (int i = start; i < end; ++i) {
+    if (text.CharacterAt(i) != U'\n') continue;
+    if (paragraph > 0 || opens_paragraph) text.Align(i, 1, alignments_[paragraph]);
+    ++paragraph;
+  }
+  text.SelStart(end);
+}
+
+bool CanInsertMimeData(const QMimeData& data) {
+  return qobject_cast<const RichTextMimeData*>(&data) != nullptr || data.hasText() ||
+         data.hasImage();
+}
+
+void InsertMimeData(RichText& text, const QMimeData& data, int widest) {
+  if (const auto* own = qobject_cast<const RichTextMimeData*>(&data)) {
+    own->InsertInto(text);
+  } else if (data.hasText() && !data.text().isEmpty()) {
+    text.SelUnicode(PlainText(data));
+  } else if (data.hasImage()) {
+    const auto image = qvariant_cast<QImage>(data.imageData());
+    if (!image.isNull()) text.InsertPicture(PictureOf(image, widest));
+  }
+}
+
+}  // namespace brindlepage

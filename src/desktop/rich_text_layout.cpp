@@ -1,0 +1,257 @@
+#include "desktop/rich_text_layout.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QSyntaxHighlighter>
+#include <QTextBlock>
+#include <algorithm>
+#include <cmath>
+
+#include "toolkit/code_page.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr int kFormatId = QTextFormat::UserProperty + 1;
+
+// How far a line may reach over the column's edge: less than a hundredth of an inch, room for
+// the strokes by which underscores join.
+constexpr int kOverhang = 12;
+
+// The width of a typewriter's character, in sizes of its font.
+constexpr double kTypewriterPitch = 0.6;
+
+QString FontName(const CharFormat& format) {
+  return QString::fromStdString(code_page::ToUtf8(format.font));
+}
+
+bool IsTypewriter(const QString& font) {
+  for (const char* name : {"Courier New", "Courrier New", "Courier"}) {
+    if (font.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return true;
+  }
+  return false;
+}
+
+// Fonts of another pitch than the typewriter's are set a little closer or wider, so that a line
+// of 90 characters in 10 points is as wide as the column whatever is installed.
+double TypewriterSpacing(const QStringList& families) {
+  QFont font(families);
+  font.setPixelSize(2000);
+  const double pitch = QFontMetricsF(font).horizontalAdvance(QLatin1Char('_')) / 2000;
+  const bool differs = std::abs(pitch - kTypewriterPitch) > 0.0005;
+  if (pitch <= 0 || !differs) return 100;
+  return std::floor(kTypewriterPitch / pitch * 6400) / 64;  // the steps that Qt knows
+}
+
+void SetFont(QTextCharFormat& format, const QString& font) {
+  const QStringList families = ShownFamilies(font);
+  format.setFontFamilies(families);
+  if (IsTypewriter(font)) {
+    format.setFontStyleHint(QFont::TypeWriter);
+    const double spacing = TypewriterSpacing(families);
+    if (spacing != 100) {
+      format.setFontLetterSpacingType(QFont::PercentageSpacing);
+      format.setFontLetterSpacing(spacing);
+    }
+  }
+}
+
+// Qt cuts blanks that run on for thousands of characters into lines. Where they stand at the end
+// of a paragraph they are drawn without width instead, in the layout alone.
+class BlankTails : public QSyntaxHighlighter {
+ public:
+  using QSyntaxHighlighter::QSyntaxHighlighter;
+
+ protected:
+  void highlightBlock(const QString& text) override {
+    if (text.size() < kLong) return;
+    qsizetype tail = text.size();
+    while (tail > 0 && text[tail - 1] == QLatin1Char(' ')) --tail;
+    if (text.size() - tail < kLong / 2) return;
+    QTextCharFormat no_width;
+    no_width.setFontLetterSpacingType(QFont::PercentageSpacing);
+    no_width.setFontLetterSpacing(1.0 / 64);  // the least that counts as a spacing
+    setFormat(static_cast<int>(tail), static_cast<int>(text.size() - tail), no_width);
+  }
+
+ private:
+  static constexpr qsizetype kLong = 2000;
+};
+
+QImage Decode(const RichPicture& picture) {
+  const auto* bytes = reinterpret_cast<const uchar*>(picture.bytes.data());
+  return QImage::fromData(bytes, static_cast<int>(picture.bytes.size()));
+}
+
+// What is shown of a picture that can't be read.
+void DrawPlaceholder(QPainter& painter, const QRectF& rect) {
+  painter.fillRect(rect, QColor(0xF3, 0xF1, 0xEC));
+  painter.setPen(QPen(QColor(0xA0, 0x98, 0x88), 0));
+  painter.drawRect(rect);
+  painter.drawLine(rect.topLeft(), rect.bottomRight());
+  painter.drawLine(rect.topRight(), rect.bottomLeft());
+}
+
+}  // namespace
+
+int TwipDevice::metric(PaintDeviceMetric metric) const {
+  switch (metric) {
+    case PdmDpiX:
+    case PdmDpiY:
+    case PdmPhysicalDpiX:
+    case PdmPhysicalDpiY:
+      return RichTextLayout::kDotsPerInch;
+    case PdmWidth:
+    case PdmHeight:
+      return RichTextLayout::kColumnWidth;
+    default:
+      return QPaintDevice::metric(metric);
+  }
+}
+
+// --- Pictures
+
+void RichTextPictures::Add(std::uint32_t format_id, std::shared_ptr<const RichPicture> picture) {
+  shown_.try_emplace(format_id, Shown{std::move(picture), std::nullopt});
+}
+
+QSizeF RichTextPictures::intrinsicSize(QTextDocument*, int, const QTextFormat& format) {
+  const auto entry = shown_.find(static_cast<std::uint32_t>(format.intProperty(kFormatId)));
+  if (entry == shown_.end()) return {};
+  const RichPicture& picture = *entry->second.picture;
+  const QSizeF size(std::max(picture.width, 1), std::max(picture.height, 1));
+  // What is wider than the column is shown smaller, since paper can't be scrolled.
+  return size * std::min(1.0, RichTextLayout::kColumnWidth / size.width());
+}
+
+void RichTextPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,
+                                  const QTextFormat& format) {
+  const auto entry = shown_.find(static_cast<std::uint32_t>(format.intProperty(kFormatId)));
+  if (entry == shown_.end()) return;
+  std::optional<QImage>& image = entry->second.image;
+  if (!image) image = Decode(*entry->second.picture);
+  painter->save();
+  painter->setRenderHint(QPainter::SmoothPixmapTransform);
+  if (image->isNull()) {
+    DrawPlaceholder(*painter, rect);
+  } else {
+    painter->drawImage(rect, *image);
+  }
+  painter->restore();
+}
+
+// --- The layout
+
+RichTextLayout::RichTextLayout(const RichText& text) : text_(text) {
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setUseDesignMetrics(true);
+  document_.setDefaultTextOption(option);
+  document_.setUseDesignMetrics(true);
+  document_.setDocumentMargin(0);
+  document_.documentLayout()->setPaintDevice(&device_);
+  document_.documentLayout()->registerHandler(RichTextPictures::kObjectType, &pictures_);
+  document_.setTextWidth(kColumnWidth + kOverhang);
+
+  // An empty document is as high as a line of the design font. Formats take from this font what
+  // they do not set, so it has nothing but a family and a size.
+  const CharFormat& design = text.DesignFormat();
+  QFont font(ShownFamilies(FontName(design)));
+  font.setPointSizeF(design.size / 20.0);
+  document_.setDefaultFont(font);
+}
+
+void RichTextLayout::Load(int start, int end) {
+  document_.setUndoRedoEnabled(false);
+  document_.clear();
+  QTextCursor cursor(&document_);
+  cursor.beginEditBlock();
+  cursor.setBlockFormat(ParagraphFormat(text_.AlignmentAt(start)));
+  Insert(cursor, start, end);
+  cursor.endEditBlock();
+  document_.setUndoRedoEnabled(true);
+}
+
+void RichTextLayout::Insert(QTextCursor& cursor, int start, int end) {
+  QString run;
+  for (int i = start; i < end;) {
+    const std::uint32_t id = text_.FormatIdAt(i);
+    run.clear();
+    for (; i < end && text_.FormatIdAt(i) == id; ++i) {
+      const char32_t c = text_.CharacterAt(i);
+      if (c == U'\n') break;
+      run.append(QChar::fromUcs4(c));
+    }
+    if (!run.isEmpty()) cursor.insertText(run, Format(id));
+    if (i < end && text_.CharacterAt(i) == U'\n' && text_.FormatIdAt(i) == id) {
+      ++i;
+      cursor.insertBlock(ParagraphFormat(text_.AlignmentAt(i)), Format(id));
+    }
+  }
+}
+
+const QTextCharFormat& RichTextLayout::Format(std::uint32_t id) {
+  if (id >= formats_.size()) formats_.resize(id + 1);
+  std::optional<QTextCharFormat>& shown = formats_[id];
+  if (shown) return *shown;
+
+  const CharFormat& format = text_.Format(id);
+  shown.emplace();
+  shown->setProperty(kFormatId, static_cast<int>(id));
+  SetFont(*shown, FontName(format));
+  shown->setFontPointSize(format.size / 20.0);
+  if (format.bold) shown->setFontWeight(QFont::Bold);
+  if (format.italic) shown->setFontItalic(true);
+  if (format.underline) shown->setFontUnderline(true);
+  const auto byte = [&](int shift) { return static_cast<int>(format.color >> shift & 0xFF); };
+  shown->setForeground(QColor(byte(0), byte(8), byte(16)));
+  if (format.picture) {
+    pictures_.Add(id, format.picture);
+    shown->setObjectType(RichTextPictures::kObjectType);
+  }
+  return *shown;
+}
+
+std::optional<std::uint32_t> RichTextLayout::FormatId(const QTextCharFormat& format) {
+  if (!format.hasProperty(kFormatId)) return std::nullopt;
+  return static_cast<std::uint32_t>(format.intProperty(kFormatId));
+}
+
+QTextBlockFormat RichTextLayout::ParagraphFormat(Alignment alignment) {
+  QTextBlockFormat format;
+  if (alignment == Alignment::Left) format.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
+  if (alignment == Alignment::Right) format.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
+  if (alignment == Alignment::Centre) format.setAlignment(Qt::AlignHCenter);
+  return format;
+}
+
+Alignment RichTextLayout::AlignmentOf(const QTextBlockFormat& format) {
+  if (format.alignment() & Qt::AlignHCenter) return Alignment::Centre;
+  if (format.alignment() & Qt::AlignRight) return Alignment::Right;
+  return Alignment::Left;
+}
+
+void RichTextLayout::HangBlanks() {
+  auto* tails = new BlankTails(&document_);  // belongs to the document
+  tails->rehighlight();
+}
+
+QStringList ShownFamilies(const QString& font) {
+  QStringList families{font};
+  if (IsTypewriter(font)) {
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    families = {"Courier New", "Liberation Mono", QFontInfo(fixed).family()};
+  } else if (font.compare(QLatin1String("Times New Roman"), Qt::CaseInsensitive) == 0) {
+    families = {font, "Liberation Serif", QFontInfo(QFont("serif")).family()};
+  }
+  const auto missing = [](const QString& family) { return !QFontDatabase::hasFamily(family); };
+  QStringList installed = families;
+  installed.removeIf(missing);
+  return installed.isEmpty() ? families : installed;
+}
+
+}  // namespace brindlepage

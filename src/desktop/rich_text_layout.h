@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QImage>
+#include <QObject>
+#include <QPaintDevice>
+#include <QTextBlockFormat>
+#include <QTextCharFormat>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextObjectInterface>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "worksheet/rich_text.h"
+
+namespace brindlepage {
+
+// A device with a dot for each twip. Every size of a twentieth of a point is a whole number of
+// dots there, so that nothing is rounded and lines break alike on all screens and printers.
+class TwipDevice : public QPaintDevice {
+ public:
+  QPaintEngine* paintEngine() const override { return nullptr; }
+
+ protected:
+  int metric(PaintDeviceMetric metric) const override;
+};
+
+// The pictures of a document, as Qt asks for them.
+class RichTextPictures : public QObject, public QTextObjectInterface {
+  Q_OBJECT
+  Q_INTERFACES(QTextObjectInterface)
+
+ public:
+  static constexpr int kObjectType = QTextFormat::UserObject + 1;
+
+  void Add(std::uint32_t format_id, std::shared_ptr<const RichPicture> picture);
+
+  QSizeF intrinsicSize(QTextDocument*, int, const QTextFormat& format) override;
+  void drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,
+                  const QTextFormat& format) override;
+
+ private:
+  struct Shown {
+    std::shared_ptr<const RichPicture> picture;
+    std::optional<QImage> image;  // decoded when first drawn
+  };
+  std::map<std::uint32_t, Shown> shown_;
+};
+
+// A rich text document, or a stretch of it, as a QTextDocument laid out in twips: what is drawn
+// from it is scaled, on screen by the zoom and on paper by the printer's resolution. Each of its
+// characters carries the id of its format, so that what the document says of it (a font that is
+// not installed, say) is never lost.
+class RichTextLayout {
+ public:
+  static constexpr int kDotsPerInch = 1440;
+  static constexpr int kColumnWidth = 7 * kDotsPerInch + kDotsPerInch / 2;
+
+  // `text` must live as long as Insert and Format are called.
+  explicit RichTextLayout(const RichText& text);
+  RichTextLayout(const RichTextLayout&) = delete;
+  RichTextLayout& operator=(const RichTextLayout&) = delete;
+
+  QTextDocument& document() { return document_; }
+  const QTextDocument& document() const { return document_; }
+
+  // Replaces all that is shown by the characters from `start` to `end`. Undo forgets what was.
+  void Load(int start, int end);
+  // Inserts the characters from `start` to `end` at a cursor without a selection.
+  void Insert(QTextCursor& cursor, int start, int end);
+
+  const QTextCharFormat& Format(std::uint32_t id);
+  // Nothing for a format that did not come from Format().
+  static std::optional<std::uint32_t> FormatId(const QTextCharFormat& format);
+
+  static QTextBlockFormat ParagraphFormat(Alignment alignment);
+  static Alignment AlignmentOf(const QTextBlockFormat& format);
+
+  // From now on, blanks without end behind a paragraph's last word take no line of their own.
+  // Whoever follows the document's changes has to be connected before.
+  void HangBlanks();
+
+ private:
+  const RichText& text_;
+  TwipDevice device_;
+  RichTextPictures pictures_;
+  std::vector<std::optional<QTextCharFormat>> formats_;  // by id
+  QTextDocument document_;
+};
+
+// The families that show a font of a document: itself, and what stands in for it.
+QStringList ShownFamilies(const QString& font);
+
+}  // namespace brindlepage

@@ -1,0 +1,117 @@
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
+#include <QPrinter>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <algorithm>
+
+#include "desktop/rich_text_layout.h"
+#include "desktop/rich_text_view.h"
+#include "toolkit/run_time_error.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr double kMargin = 0.75 * RichTextLayout::kDotsPerInch;
+
+struct Line {
+  QTextLine line;
+  QPointF origin;  // of its paragraph
+  double top;      // twips
+  double bottom;
+};
+
+struct Lines {
+  std::vector<Line> all;
+  std::size_t visible = 0;  // how many there are down to the last on which something is written
+};
+
+// A stretch of the column, from the top of one line to the bottom of another.
+struct Page {
+  double top;
+  double bottom;
+};
+
+Lines LinesOf(const QTextDocument& document) {
+  Lines lines;
+  document.documentLayout()->documentSize();  // lays out what is not yet
+  for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+    const QTextLayout& layout = *block.layout();
+    const QString text = block.text();
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      const QTextLine line = layout.lineAt(i);
+      const double top = layout.position().y() + line.y();
+      lines.all.push_back({line, layout.position(), top, top + line.height()});
+      const auto words = QStringView(text).mid(line.textStart(), line.textLength()).trimmed();
+      if (!words.isEmpty()) lines.visible = lines.all.size();
+    }
+  }
+  return lines;
+}
+
+// A line that is higher than a page is cut, and blanks at the end open no page.
+std::vector<Page> PagesOf(const Lines& lines, double height) {
+  std::vector<Page> pages;
+  for (std::size_t i = 0; i < lines.all.size(); ++i) {
+    const Line& line = lines.all[i];
+    const bool fits = !pages.empty() && line.bottom <= pages.back().top + height;
+    if (!fits && i >= lines.visible) break;
+    if (!fits) pages.push_back({line.top, line.top});
+    while (line.bottom > pages.back().top + height) {
+      const double cut = pages.back().top + height;
+      pages.back().bottom = cut;
+      pages.push_back({cut, cut});
+    }
+    pages.back().bottom = line.bottom;
+  }
+  if (pages.empty()) pages.push_back({0, 0});
+  return pages;
+}
+
+void Draw(const Lines& lines, const Page& page, QPainter& painter) {
+  painter.setClipRect(QRectF(-kMargin, page.top, RichTextLayout::kColumnWidth + 2 * kMargin,
+                             page.bottom - page.top));
+  for (const Line& line : lines.all) {
+    if (line.bottom > page.top && line.top < page.bottom) line.line.draw(&painter, line.origin);
+  }
+}
+
+}  // namespace
+
+void PrintRichText(const RichTextBox& box, int start, int length, QPrinter& printer) {
+  const bool whole = length <= 0;
+  const int from = whole ? 0 : std::clamp(start, 0, box.Length());
+  const int end = whole ? box.Length() : std::min<int>(box.Length(), from + length);
+  RichTextLayout layout(box);
+  layout.HangBlanks();
+  layout.Load(from, end);
+
+  printer.setFullPage(true);
+  QPainter painter;
+  if (!painter.begin(&printer)) throw RunTimeError(Fault::DeviceIo);
+  const QRectF paper = printer.pageLayout().fullRect(QPageLayout::Inch);
+  const double paper_width = paper.width() * RichTextLayout::kDotsPerInch;
+  const double paper_height = paper.height() * RichTextLayout::kDotsPerInch;
+  const double shrink = std::min(1.0, paper_width / RichTextLayout::kColumnWidth);
+  const double left = (paper_width - shrink * RichTextLayout::kColumnWidth) / 2;
+  const double height = std::max((paper_height - 2 * kMargin) / shrink, 1.0);
+
+  const Lines lines = LinesOf(layout.document());
+  bool first = true;
+  for (const Page& page : PagesOf(lines, height)) {
+    if (!first && !printer.newPage()) throw RunTimeError(Fault::DeviceIo);
+    first = false;
+    painter.save();
+    painter.scale(printer.logicalDpiX() / double{RichTextLayout::kDotsPerInch},
+                  printer.logicalDpiY() / double{RichTextLayout::kDotsPerInch});
+    painter.translate(left, kMargin);
+    painter.scale(shrink, shrink);
+    painter.translate(0, -page.top);
+    Draw(lines, page, painter);
+    painter.restore();
+  }
+  if (!painter.end()) throw RunTimeError(Fault::DeviceIo);
+}
+
+}  // namespace brindlepage

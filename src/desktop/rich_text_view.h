@@ -1,0 +1,169 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desktop/rich_text_layout.h"
+#include "desktop/rich_text_positions.h"
+#include "toolkit/runtime.h"
+#include "worksheet/rich_text_box.h"
+
+class QMimeData;
+class QPrinter;
+
+namespace brindlepage {
+
+class RichTextFindBar;
+
+// The face of a rich text box: a white sheet with the text column of 7.5 inches, on which a
+// teacher types, selects, copies and pastes, undoes, zooms and finds.
+//
+// The box is the truth. Either side tells of a stretch that changed; the stretch is compared and
+// only what differs is taken over, so that an echo finds nothing to do. What the teacher does
+// enters the box by the runtime's dispatch. What a handler does to the box is shown when the
+// handler is done, all of it in one step.
+class RichTextView : public QGraphicsView, private RichTextObserver {
+  Q_OBJECT
+
+ public:
+  // The box must outlive the view, or the view be told to Leave() it.
+  RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent = nullptr);
+  ~RichTextView() override;
+
+  // Follows the box no more and takes no more edits; what is shown stays.
+  void Leave();
+  // Shows at once what a handler that still runs has done to the box.
+  void Mirror();
+
+  // As shown. Its positions are those of the box, but for characters beyond U+FFFF, which Qt
+  // counts double.
+  const QTextDocument& document() const { return layout_.document(); }
+  QTextCursor Caret() const;
+
+  // Per cent of the true size, 30 to 400.
+  int Zoom() const { return zoom_; }
+  void Zoom(int percent);
+
+  // What the keys and the context menu do.
+  void Undo();
+  void Redo();
+  void Cut();
+  void Copy();
+  void Paste();
+  void Delete();
+  void SelectAll();
+  void OpenFindBar();
+  void FindNext(bool backward = false);
+
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void drawBackground(QPainter* painter, const QRectF& exposed) override;
+
+ private:
+  class Sheet;
+  struct Cell {
+    char32_t character;
+    std::uint32_t format;
+  };
+  using Cells = std::vector<Cell>;
+  // A stretch that may differ between box and view: what lies before and behind does not.
+  struct Difference {
+    int before;
+    int behind;
+  };
+
+  // From the box to the view.
+  void Replaced(int position, int removed, int inserted) override;
+  void Reformatted(int position, int count) override;
+  void ParagraphsAligned(int position, int count) override;
+  void CaretMoved() override;
+  void Note(int position, int end);
+  void MirrorSoon();
+  void ShowStretch(int start, int box_end, int view_end);
+  void ShowCaret();
+  void ShowCaretFormat();
+
+  // From the view to the box.
+  void TakeEdit(int qt_position, int removed, int added);
+  void TakeStretch(int start, int box_end, int view_end);
+  void TakeCaret();
+
+  Cells BoxCells(int start, int end) const;
+  Cells ViewCells(int qt_start, int qt_end) const;
+  int ViewLength() const;
+  QTextCursor Select(int start, int end);
+
+  // The teacher's commands.
+  using Command = void (RichTextView::*)();
+  static Command CommandOf(const QKeyEvent& event);
+  bool TypeText(QKeyEvent* event);
+  void FindForward() { FindNext(false); }
+  void FindBackward() { FindNext(true); }
+  void ZoomIn() { Zoom(zoom_ + 10); }
+  void ZoomOut() { Zoom(zoom_ - 10); }
+  void ZoomToTrueSize() { Zoom(100); }
+  void ToggleBold();
+  void ToggleItalic();
+  void ToggleUnderline();
+  void LeaveForward() { QGraphicsView::focusNextPrevChild(true); }
+  void LeaveBackward() { QGraphicsView::focusNextPrevChild(false); }
+  void Insert(const QMimeData& mime);
+  void Drop(const QMimeData& mime, const QPointF& point, bool own, bool move);
+  void MovePage(bool up, bool select);
+  void MoveCaret(const QTextCursor& cursor);
+  void FindFrom(QTextCursor from, bool backward);
+  void CloseFindBar();
+  template <class Deed>
+  void Do(Deed deed);
+
+  QRectF CaretRect(const QTextCursor& cursor) const;  // twips, in the column
+  int PositionAt(const QPointF& point) const;         // of the box
+  double DotsPerTwip() const;
+  void PlaceSheet();
+  void ScrollToTop();
+  void PlaceFindBar();
+  QPoint IntoColumn(const QPoint& point) const;
+
+  RichTextBox* box_;  // null once left
+  Runtime& runtime_;
+  RichTextLayout layout_;
+  QGraphicsScene scene_;
+  Sheet* sheet_;  // the scene's
+  RichTextFindBar* find_bar_;
+  RichTextPositions positions_;
+
+  std::optional<Difference> difference_;
+  bool whole_ = false;  // the box has a new document
+  bool mirror_soon_ = false;
+  bool mirroring_ = false;
+  bool taking_ = false;
+
+  int zoom_ = 100;
+  int wheel_turned_ = 0;
+  QRectF paper_;
+  QBasicTimer drag_timer_;
+  QPoint drag_point_;
+};
+
+// Prints `length` characters from `start`, or with a length of 0 or less the whole document: the
+// column in the middle of the paper, its lines as on screen, three quarters of an inch free at
+// the top and bottom. Paper that is too narrow gets the column smaller. Throws RunTimeError
+// "Device I/O error" if the printer can't be used.
+void PrintRichText(const RichTextBox& box, int start, int length, QPrinter& printer);
+
+}  // namespace brindlepage

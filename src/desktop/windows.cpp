@@ -1,0 +1,320 @@
+#include "desktop/windows.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/icons.h"
+#include "desktop/text.h"
+#include "toolkit/controls.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+constexpr QSize kUsualSize{1000, 720};
+constexpr QSize kSmallestSize{640, 440};
+constexpr QSize kFrame{16, 40};  // about what a window's frame takes
+
+bool InBox() { return QApplication::activeModalWidget() != nullptr; }
+
+}  // namespace
+
+FormWindow::FormWindow(Windows& windows, QWidget* owner, bool box)
+    : QWidget(owner, box ? Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                               Qt::WindowCloseButtonHint
+                         : Qt::Window),
+      windows_(windows),
+      pages_(new QStackedLayout(this)) {
+  if (box) {
+    pages_->setSizeConstraint(QLayout::SetFixedSize);
+  } else {
+    pages_->setSizeConstraint(QLayout::SetNoConstraint);
+    setMinimumSize(kSmallestSize);
+  }
+}
+
+FormView* FormWindow::Page() const { return static_cast<FormView*>(pages_->currentWidget()); }
+
+void FormWindow::ShowPage(FormView& page) {
+  if (pages_->indexOf(&page) < 0) pages_->addWidget(&page);
+  pages_->setCurrentWidget(&page);
+}
+
+bool FormWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) windows_.WindowActivated(*this);
+  return QWidget::event(event);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  // The program decides what a closed frame means.
+  event->ignore();
+  windows_.WindowClosed(*this);
+}
+
+Windows::Windows(Loop& loop) : loop_(loop), main_(new FormWindow(*this, nullptr, false)) {
+  main_->setObjectName("MainWindow");
+  QApplication::setWindowIcon(NamedIcon("program"));
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* now) { FocusMoved(now); });
+  connect(qApp, &QGuiApplication::applicationStateChanged, this,
+          [this](Qt::ApplicationState state) {
+            // Between two windows of the program it may look left for a moment.
+            constexpr int kMoment = 100;
+            if (state == Qt::ApplicationInactive) {
+              QTimer::singleShot(kMoment, this, [this] { ApplicationLeft(); });
+            }
+          });
+}
+
+Windows::~Windows() {
+  disconnect(qApp, nullptr, this, nullptr);
+  for (auto& [form, view] : views_) view->Detach();
+  delete main_;
+}
+
+void Windows::Activated(Form& form) {
+  std::erase(shown_, &form);
+  shown_.push_back(&form);
+  FlushSoon();
+}
+
+void Windows::Hidden(Form& form) {
+  std::erase(shown_, &form);
+  FlushSoon();
+}
+
+void Windows::Unloaded(Form& form) {
+  std::erase(shown_, &form);
+  std::erase(changed_forms_, &form);
+  if (active_shown_ == &form) active_shown_ = nullptr;
+  if (const auto view = views_.find(&form); view != views_.end()) {
+    std::erase_if(changed_controls_,
+                  [&](ControlView* changed) { return &changed->control()->form() == &form; });
+    view->second->Detach();
+    if (boxes_.count(&form) == 0) dead_.push_back(view->second);
+    views_.erase(view);
+  }
+  if (const auto box = boxes_.find(&form); box != boxes_.end()) {
+    dead_.push_back(box->second);
+    boxes_.erase(box);
+  }
+  FlushSoon();
+}
+
+void Windows::Changed(Form& form) {
+  if (std::find(changed_forms_.begin(), changed_forms_.end(), &form) != changed_forms_.end()) {
+    return;
+  }
+  if (Find(form) == nullptr) return;
+  changed_forms_.push_back(&form);
+  FlushSoon();
+}
+
+void Windows::Changed(Control& control) {
+  FormView* form = Find(control.form());
+  if (form == nullptr) return;
+  ControlView* view = form->Find(control);
+  if (view == nullptr) return Changed(control.form());
+  if (view->in_sync) {
+    view->in_sync = false;
+    changed_controls_.push_back(view);
+    FlushSoon();
+  }
+  // Progress shows while the handler goes on.
+  if (dynamic_cast<ProgressBar*>(&control) != nullptr && control.OnScreen()) {
+    Flush();
+    view->widget()->repaint();
+  }
+}
+
+void Windows::FlushSoon() {
+  if (flush_coming_) return;
+  flush_coming_ = true;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        Flush();
+        TellSizes();
+        loop_.TakeStock();
+      },
+      Qt::QueuedConnection);
+}
+
+void Windows::Flush() {
+  flush_coming_ = false;
+  ShowTopPage();
+  ShowBoxes();
+  ShowChanges();
+  ShowFocus();
+  Bury();
+}
+
+FormView* Windows::Find(Form& form) const {
+  const auto view = views_.find(&form);
+  return view == views_.end() ? nullptr : view->second;
+}
+
+QWidget* Windows::Front() const {
+  if (QWidget* box = QApplication::activeModalWidget()) return box;
+  if (QWidget* window = QApplication::activeWindow()) return window;
+  return main_->isVisible() ? main_ : nullptr;
+}
+
+FormView& Windows::ViewFor(Form& form) {
+  FormView*& view = views_[&form];
+  if (view == nullptr) {
+    view = new FormView(form, loop_);
+    view->on_resize = [this] { FlushSoon(); };
+  }
+  return *view;
+}
+
+FormWindow& Windows::BoxFor(Form& form) {
+  FormWindow*& box = boxes_[&form];
+  if (box == nullptr) {
+    box = new FormWindow(*this, main_, true);
+    box->setObjectName(ToQString(form.Name()) + "Window");
+    box->ShowPage(ViewFor(form));
+  }
+  return *box;
+}
+
+void Windows::ShowTopPage() {
+  const auto top = std::find_if(shown_.rbegin(), shown_.rend(),
+                                [](const Form* form) { return form->kind() == FormKind::Screen; });
+  if (top == shown_.rend()) {
+    main_->hide();
+    return;
+  }
+  Form& form = **top;
+  FormView& page = ViewFor(form);
+  const bool turned = main_->Page() != &page;
+  turning_ = true;
+  main_->ShowPage(page);
+  turning_ = false;
+  main_->setWindowTitle(ToQString(form.Caption));
+  if (!placed_) {
+    placed_ = true;
+    const QSize room = main_->screen()->availableSize() - kFrame;
+    main_->resize(kUsualSize.boundedTo(room));
+  }
+  if (turned || !main_->isVisible() || form.WindowState != state_followed_) {
+    state_followed_ = form.WindowState;
+    FollowWindowState(form);
+  }
+}
+
+// A window that the teacher maximised stays so; one that the program did goes back.
+void Windows::FollowWindowState(Form& form) {
+  const bool is_maximised = main_->isMaximized();
+  if (form.WindowState == kMaximised && !is_maximised) {
+    maximised_by_program_ = true;
+    main_->showMaximized();
+  } else if (form.WindowState == kNormal && maximised_by_program_) {
+    maximised_by_program_ = false;
+    main_->showNormal();
+  } else if (!main_->isVisible()) {
+    is_maximised ? main_->showMaximized() : main_->show();
+  }
+}
+
+void Windows::ShowBoxes() {
+  for (auto& [form, box] : boxes_) {
+    if (!form->Visible) box->hide();
+  }
+  for (Form* form : shown_) {
+    if (form->kind() != FormKind::Box) continue;
+    FormWindow& box = BoxFor(*form);
+    box.setWindowTitle(ToQString(form->Caption));
+    if (box.isVisible()) continue;
+    box.adjustSize();
+    box.move(main_->geometry().center() - box.rect().center());
+    box.show();
+  }
+}
+
+void Windows::ShowChanges() {
+  // Showing one may change another.
+  while (!changed_controls_.empty() || !changed_forms_.empty()) {
+    const auto controls = std::exchange(changed_controls_, {});
+    const auto forms = std::exchange(changed_forms_, {});
+    for (ControlView* view : controls) view->Sync();
+    for (Form* form : forms) {
+      if (FormView* view = Find(*form)) view->SyncForm();
+    }
+  }
+}
+
+void Windows::ShowFocus() {
+  Form* active = loop_.runtime().forms().Active();
+  if (active == nullptr || !active->Visible || Find(*active) == nullptr) return;
+  Find(*active)->SyncFocus();
+  if (active == active_shown_) return;
+  active_shown_ = active;
+  QWidget* window = Find(*active)->window();
+  if (window->isActiveWindow() || !window->isVisible()) return;
+  activating_ = window;
+  window->activateWindow();
+}
+
+void Windows::Bury() {
+  for (QWidget* widget : std::exchange(dead_, {})) {
+    widget->hide();
+    widget->deleteLater();
+  }
+}
+
+void Windows::TellSizes() {
+  for (const auto& [form, view] : std::map(views_)) {
+    if (views_.count(form) == 0 || !form->Visible || !view->isVisible()) continue;
+    if (view->size() == view->told_size) continue;
+    view->told_size = view->size();
+    Form& resized = *form;
+    const QSize twips = view->size() * kTwipsPerPixel;
+    loop_.Dispatch([&] { loop_.runtime().forms().Resize(resized, twips.width(), twips.height()); });
+  }
+}
+
+void Windows::WindowActivated(FormWindow& window) {
+  // The window that a handler has just put aside may still come to the front for a moment.
+  if (activating_ == &window) activating_ = nullptr;
+  if (activating_ != nullptr && activating_->isVisible()) return;
+  FormView* page = window.Page();
+  if (InBox() || page == nullptr || page->form() == nullptr) return;
+  Form& form = *page->form();
+  if (!form.Visible || loop_.runtime().forms().Active() == &form) return;
+  loop_.Dispatch([&] { loop_.runtime().forms().Activate(form); });
+}
+
+void Windows::WindowClosed(FormWindow& window) {
+  FormView* page = window.Page();
+  if (page == nullptr || page->form() == nullptr) return;
+  Form& form = *page->form();
+  loop_.Act(form, [&] { loop_.runtime().forms().Close(form); });
+}
+
+void Windows::FocusMoved(QWidget* now) {
+  // A page that is turned to has a field of its own choice.
+  if (turning_) return;
+  for (const auto& [form, view] : views_) {
+    if (now == nullptr || !view->isAncestorOf(now) || !form->Visible) continue;
+    Control* holder = view->Holder(now);
+    if (holder != nullptr) form->Focus(*holder);
+    return;
+  }
+}
+
+void Windows::ApplicationLeft() {
+  if (QGuiApplication::applicationState() == Qt::ApplicationActive || InBox()) return;
+  Form* active = loop_.runtime().forms().Active();
+  if (active == nullptr) return;
+  active_shown_ = nullptr;
+  loop_.Dispatch([&] { loop_.runtime().forms().Deactivate(*active); });
+}
+
+}  // namespace brindlepage

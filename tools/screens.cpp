@@ -1,0 +1,226 @@
+// Photographs the program's screens, without a display:
+//
+//     screens OUT_DIR PROGRAM_FOLDER [WIDTHxHEIGHT]
+//
+// walks through the program on a copy of the folder, by the controls' own actions, and writes a
+// PNG file for each form and each message when it first comes up, and for a few more states. A
+// new screen is photographed as soon as one of the walks below leads to it.
+
+#include <QApplication>
+#include <QCursor>
+#include <QDialog>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QPixmap>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTimer>
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "desktop/desktop.h"
+#include "desktop/style.h"
+#include "desktop/text.h"
+#include "toolkit/controls.h"
+#include "toolkit/lists.h"
+
+namespace {
+
+using namespace brindlepage;
+
+class Photographer {
+ public:
+  Photographer(QString folder, QSize size) : folder_(std::move(folder)), size_(size) {}
+
+  void Attach(Desktop& desktop) {
+    desktop_ = &desktop;
+    desktop.windows().main().setFixedSize(size_);
+    boxes_.disconnect();
+    QObject::connect(&boxes_, &QTimer::timeout, [this] { AnswerBox(); });
+    boxes_.start(30);
+  }
+
+  // Lets the program come to rest, then takes what hasn't been taken yet.
+  void TakeNewForms() {
+    Settle();
+    for (const auto& form : desktop_->program().forms().Loaded()) {
+      if (form->Visible && taken_.insert(form->Name()).second) Take(ToQString(form->Name()), *form);
+    }
+  }
+
+  void TakeAs(const QString& name) {
+    Settle();
+    if (Form* form = desktop_->program().forms().Active()) Take(name, *form);
+  }
+
+  Desktop& desktop() { return *desktop_; }
+
+ private:
+  static void Settle() {
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < 150) QApplication::processEvents(QEventLoop::AllEvents, 20);
+  }
+
+  void Take(const QString& name, Form& form) {
+    FormView* view = desktop_->windows().Find(form);
+    if (view != nullptr) Save(name, *view->window());
+  }
+
+  void Save(const QString& name, QWidget& window) {
+    const QString file = QString("%1/%2.png").arg(folder_, name);
+    if (!window.grab().save(file)) std::fprintf(stderr, "can't write %s\n", qPrintable(file));
+  }
+
+  void AnswerBox() {
+    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (box == nullptr) return;
+    Save(QString("message-%1").arg(++messages_), *box);
+    box->accept();
+  }
+
+  QString folder_;
+  QSize size_;
+  Desktop* desktop_ = nullptr;
+  QTimer boxes_;
+  std::set<std::string> taken_;
+  int messages_ = 0;
+};
+
+using Step = std::function<void(Photographer&)>;
+using Walk = std::vector<Step>;
+
+template <class ControlType>
+ControlType& FindControl(Photographer& photographer, const std::string& form,
+                         const std::string& name, int index = -1) {
+  for (const auto& loaded : photographer.desktop().program().forms().Loaded()) {
+    if (loaded->Name() != form) continue;
+    auto* control = dynamic_cast<ControlType*>(loaded->FindControl(name, index));
+    if (control != nullptr) return *control;
+  }
+  std::fprintf(stderr, "no %s.%s\n", form.c_str(), name.c_str());
+  std::exit(1);
+}
+
+Step Click(std::string form, std::string name, int index = -1) {
+  return [=](Photographer& photographer) {
+    auto& control = FindControl<Control>(photographer, form, name, index);
+    photographer.desktop().loop().Act(control, [&] { control.UserClick(); });
+  };
+}
+
+Step Tool(std::string form, std::string caption) {
+  return [=](Photographer& photographer) {
+    auto& toolbar = FindControl<Toolbar>(photographer, form, "Toolbar1");
+    photographer.desktop().loop().Act(toolbar,
+                                      [&] { toolbar.ButtonClick(*toolbar.FindCaption(caption)); });
+  };
+}
+
+Step Select(std::string form, std::string name, int row) {
+  return [=](Photographer& photographer) {
+    auto& list = FindControl<ListBox>(photographer, form, name);
+    photographer.desktop().loop().Act(list, [&] { list.ClickRow(row); });
+  };
+}
+
+Step Mark(std::string form, std::string name, std::vector<int> rows) {
+  return [=](Photographer& photographer) {
+    auto& list = FindControl<ListBox>(photographer, form, name);
+    photographer.desktop().loop().Act(list, [&] {
+      for (const int row : rows) list.ClickCheck(row);
+    });
+  };
+}
+
+Step DoubleClickNothing(std::string form, std::string name) {
+  return [=](Photographer& photographer) {
+    auto& list = FindControl<ListBox>(photographer, form, name);
+    photographer.desktop().loop().Act(list, [&] { list.DoubleClickRow(-1); });
+  };
+}
+
+Step Photo(QString name) {
+  return [=](Photographer& photographer) { photographer.TakeAs(name); };
+}
+
+std::vector<Walk> Walks() {
+  return {
+      {Tool("Title", "Info")},
+      {Click("Title", "Command3"), Click("JustForFun", "Command2")},
+      // A word list can't be chosen where there is none.
+      {Click("Title", "Command1", 4), DoubleClickNothing("ChooseList", "TheLists"),
+       Click("ChooseReminder", "Command1"), Select("ChooseList", "TheLists", 3),
+       Photo("ChooseList-chosen")},
+      // A study sheet.
+      {Click("Title", "Command1", 4), Select("ChooseList", "TheLists", 3),
+       Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
+       Mark("PickWords", "TheWords", {0, 2, 3, 5}), Photo("PickWords-marked"),
+       Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2")},
+      // A quiz.
+      {Click("Title", "Command1", 3), Select("ChooseList", "TheLists", 1),
+       Click("ChooseList", "Command1"), Click("QuizOptions3", "Command1"),
+       Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
+       Click("PickWords", "Command2")},
+      // A word search.
+      {Click("Title", "Command1", 0), Select("ChooseList", "TheLists", 1),
+       Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
+       Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"),
+       Click("QuizOptions", "Command1")},
+  };
+}
+
+// A screen of that size, in memory.
+void UseOffscreen(int width, int height) {
+  static QTemporaryFile description;
+  if (!description.open()) return;
+  description.write(QString(R"({"windowFrameMargins": false, "screens": [{"name": "screen", "x": 0,
+      "y": 0, "width": %1, "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                        .arg(width)
+                        .arg(height)
+                        .toUtf8());
+  description.flush();
+  qputenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + description.fileName()).toUtf8());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  int width = 1000;
+  int height = 720;
+  const bool sized = argc == 4 && std::sscanf(argv[3], "%dx%d", &width, &height) == 2;
+  if (argc != 3 && !sized) {
+    std::fprintf(stderr, "usage: screens OUT_DIR PROGRAM_FOLDER [WIDTHxHEIGHT]\n");
+    return 2;
+  }
+  UseOffscreen(width, height);
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  ApplyStyle(application);
+  const QString out = QDir().absoluteFilePath(argv[1]);
+  const std::filesystem::path program_folder = std::filesystem::absolute(argv[2]);
+  QDir().mkpath(out);
+
+  QCursor::setPos(width - 1, height - 1);
+  Photographer photographer(out, QSize(width, height));
+  for (const Walk& walk : Walks()) {
+    const QTemporaryDir copy;
+    const std::filesystem::path work = copy.path().toStdString();
+    std::filesystem::copy(program_folder, work, std::filesystem::copy_options::recursive);
+    QDir::setCurrent(copy.path());
+    Desktop desktop;
+    photographer.Attach(desktop);
+    desktop.Start();
+    photographer.TakeNewForms();
+    for (const Step& step : walk) {
+      step(photographer);
+      photographer.TakeNewForms();
+    }
+    QDir::setCurrent(out);
+  }
+  return 0;
+}
