@@ -219,6 +219,26 @@ TEST_F(DesktopTest, TheToolbarsQuitEndsTheProgram) {
   EXPECT_EQ(program().Status(), 0);
 }
 
+TEST_F(DesktopTest, TheProcessEndsWithTheProgram) {
+  desktop_ = std::make_unique<Desktop>();
+  QTimer::singleShot(150, &box_watch_, [this] { ClickTool("Title", "Quit"); });
+  EXPECT_EQ(desktop_->Run(), 0);
+  EXPECT_TRUE(program().Ended());
+}
+
+TEST_F(DesktopTest, TheProcessEndsWhenTheFrameIsClosed) {
+  desktop_ = std::make_unique<Desktop>();
+  QTimer::singleShot(150, &box_watch_, [this] { main().close(); });
+  EXPECT_EQ(desktop_->Run(), 0);
+}
+
+TEST_F(DesktopTest, TheProcessEndsAtOnceWhenTheStartFails) {
+  std::filesystem::remove(folder_.Path() / "titleback.jpg");
+  AnswerBoxes("OK");
+  desktop_ = std::make_unique<Desktop>();
+  EXPECT_EQ(desktop_->Run(), 1);
+}
+
 TEST_F(DesktopTest, ClosingTheFrameEndsTheProgram) {
   Start();
   main().close();
@@ -303,7 +323,11 @@ TEST_F(DesktopTest, ADoubleClickBelowTheListsShowsTheReminder) {
   auto* list = Widget<QListView>("ChooseList", "TheLists");
   DoubleClick(list, QPoint(20, list->viewport()->height() - 5));
   ASSERT_NE(Loaded("ChooseReminder"), nullptr);
-  EXPECT_TRUE(Widget("ChooseReminder", "Command1")->isVisible());
+  auto* button = Widget("ChooseReminder", "Command1");
+  EXPECT_TRUE(button->isVisible());
+  // All of it is in the small window.
+  EXPECT_TRUE(button->window()->rect().contains(
+      QRect(button->mapTo(button->window(), QPoint()), button->size())));
   Click("ChooseReminder", "Command1");
   EXPECT_EQ(Active(), "ChooseList");
 }
@@ -392,6 +416,7 @@ TEST_F(DesktopTest, AHeadingTakesNoCharacterThatTheCodePageLacks) {
   auto* line = Widget<QLineEdit>("QuizOptions5", "Text1");
   EXPECT_TRUE(line->hasFocus());
   EXPECT_EQ(line->text(), "Everything Study Guide");
+  EXPECT_EQ(line->selectedText(), line->text());
 
   line->setCursorPosition(10);
   QInputMethodEvent character;

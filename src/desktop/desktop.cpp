@@ -1,5 +1,7 @@
 #include "desktop/desktop.h"
 
+#include <QApplication>
+
 namespace brindlepage {
 
 Desktop::Desktop()
@@ -18,6 +20,15 @@ void Desktop::Start() {
   program_.Start();
   windows_->Flush();
   loop_.TakeStock();
+}
+
+int Desktop::Run() {
+  Start();
+  if (program_.Ended()) return program_.Status();
+  // Not quit(), which asks the windows, and these leave it to the program.
+  QObject::connect(&loop_, &Loop::Ended, &loop_, [] { QCoreApplication::exit(); });
+  QApplication::exec();
+  return program_.Status();
 }
 
 void Desktop::StillWaiting() {

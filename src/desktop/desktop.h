@@ -17,6 +17,8 @@ class Desktop {
 
   // Shows the menu.
   void Start();
+  // Starts, and works until the program ends. The status of the process.
+  int Run();
 
   BrindlepageProgram& program() { return program_; }
   Loop& loop() { return loop_; }

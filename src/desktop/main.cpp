@@ -11,9 +11,5 @@ int main(int argc, char** argv) {
   brindlepage::ApplyStyle(application);
 
   brindlepage::Desktop desktop;
-  QObject::connect(&desktop.loop(), &brindlepage::Loop::Ended, &application,
-                   &QCoreApplication::quit);
-  desktop.Start();
-  if (!desktop.program().Ended()) QApplication::exec();
-  return desktop.program().Status();
+  return desktop.Run();
 }

@@ -41,12 +41,15 @@ QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_rati
   return covering;
 }
 
-PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), icon_(icon) {}
+PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), icon_(icon) {
+  if (!icon.isNull()) setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
 
 void PictureView::Show(const PicturePtr& picture) {
   if (picture == picture_) return;
   picture_ = picture;
   image_ = DecodePicture(picture);
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   updateGeometry();
   update();
 }

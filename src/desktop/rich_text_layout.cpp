@@ -20,7 +20,10 @@ constexpr int kFormatId = QTextFormat::UserProperty + 1;
 
 // How far a line may reach over the column's edge: less than a hundredth of an inch, room for
 // the strokes by which underscores join.
-constexpr int kOverhang = 12;
+constexpr double kOverhang = 2.5;
+
+// Qt's own idea of a page without end is too short for a very long document.
+constexpr double kEndless = 3.2e7;
 
 // The width of a typewriter's character, in sizes of its font.
 constexpr double kTypewriterPitch = 0.6;
@@ -98,7 +101,7 @@ void DrawPlaceholder(QPainter& painter, const QRectF& rect) {
 
 }  // namespace
 
-int TwipDevice::metric(PaintDeviceMetric metric) const {
+int LayoutDevice::metric(PaintDeviceMetric metric) const {
   switch (metric) {
     case PdmDpiX:
     case PdmDpiY:
@@ -123,7 +126,8 @@ QSizeF RichTextPictures::intrinsicSize(QTextDocument*, int, const QTextFormat& f
   const auto entry = shown_.find(static_cast<std::uint32_t>(format.intProperty(kFormatId)));
   if (entry == shown_.end()) return {};
   const RichPicture& picture = *entry->second.picture;
-  const QSizeF size(std::max(picture.width, 1), std::max(picture.height, 1));
+  const QSizeF size = QSizeF(std::max(picture.width, 1), std::max(picture.height, 1)) /
+                      RichTextLayout::kTwipsPerDot;
   // What is wider than the column is shown smaller, since paper can't be scrolled.
   return size * std::min(1.0, RichTextLayout::kColumnWidth / size.width());
 }
@@ -155,7 +159,7 @@ RichTextLayout::RichTextLayout(const RichText& text) : text_(text) {
   document_.setDocumentMargin(0);
   document_.documentLayout()->setPaintDevice(&device_);
   document_.documentLayout()->registerHandler(RichTextPictures::kObjectType, &pictures_);
-  document_.setTextWidth(kColumnWidth + kOverhang);
+  document_.setPageSize(QSizeF(kColumnWidth + kOverhang, kEndless));
 
   // An empty document is as high as a line of the design font. Formats take from this font what
   // they do not set, so it has nothing but a family and a size.

@@ -18,9 +18,9 @@
 
 namespace brindlepage {
 
-// A device with a dot for each twip. Every size of a twentieth of a point is a whole number of
-// dots there, so that nothing is rounded and lines break alike on all screens and printers.
-class TwipDevice : public QPaintDevice {
+// A device with four dots to the point. Sizes of quarter points are whole numbers of dots there,
+// so that nothing is rounded and lines break alike on all screens and printers.
+class LayoutDevice : public QPaintDevice {
  public:
   QPaintEngine* paintEngine() const override { return nullptr; }
 
@@ -50,14 +50,15 @@ class RichTextPictures : public QObject, public QTextObjectInterface {
   std::map<std::uint32_t, Shown> shown_;
 };
 
-// A rich text document, or a stretch of it, as a QTextDocument laid out in twips: what is drawn
+// A rich text document, or a stretch of it, as a QTextDocument laid out in dots: what is drawn
 // from it is scaled, on screen by the zoom and on paper by the printer's resolution. Each of its
 // characters carries the id of its format, so that what the document says of it (a font that is
 // not installed, say) is never lost.
 class RichTextLayout {
  public:
-  static constexpr int kDotsPerInch = 1440;
-  static constexpr int kColumnWidth = 7 * kDotsPerInch + kDotsPerInch / 2;
+  static constexpr int kDotsPerInch = 288;
+  static constexpr int kTwipsPerDot = 1440 / kDotsPerInch;
+  static constexpr int kColumnWidth = 7 * kDotsPerInch + kDotsPerInch / 2;  // dots
 
   // `text` must live as long as Insert and Format are called.
   explicit RichTextLayout(const RichText& text);
@@ -85,7 +86,7 @@ class RichTextLayout {
 
  private:
   const RichText& text_;
-  TwipDevice device_;
+  LayoutDevice device_;
   RichTextPictures pictures_;
   std::vector<std::optional<QTextCharFormat>> formats_;  // by id
   QTextDocument document_;

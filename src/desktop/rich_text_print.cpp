@@ -18,7 +18,7 @@ constexpr double kMargin = 0.75 * RichTextLayout::kDotsPerInch;
 struct Line {
   QTextLine line;
   QPointF origin;  // of its paragraph
-  double top;      // twips
+  double top;      // dots
   double bottom;
 };
 

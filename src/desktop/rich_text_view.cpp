@@ -34,11 +34,13 @@ constexpr int kLargestZoom = 400;
 constexpr int kNotch = 120;        // of a mouse wheel
 constexpr int kDragInterval = 40;  // milliseconds
 
-// Twips.
-constexpr double kPaperMargin = 720;
-constexpr double kLeastMargin = 240;
+// Dots of the layout.
+constexpr double kPaperMargin = 0.5 * RichTextLayout::kDotsPerInch;
+constexpr double kLeastMargin = kPaperMargin / 3;
 constexpr int kGround = 10;  // pixels around the sheet
-constexpr int kCaretWidth = 20;
+constexpr int kCaretWidth = 4;
+
+constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwipsPerDot;
 
 constexpr QRgb kGroundColour = 0xFFF1E7D6;
 constexpr QRgb kEdgeColour = 0xFFD5C6AC;
@@ -483,7 +485,7 @@ void RichTextView::SelectAll() {
 
 void RichTextView::Insert(const QMimeData& mime) {
   if (!CanInsertMimeData(mime)) return;
-  Do([&](RichText& text) { InsertMimeData(text, mime, RichTextLayout::kColumnWidth); });
+  Do([&](RichText& text) { InsertMimeData(text, mime, kColumnTwips); });
 }
 
 void RichTextView::Drop(const QMimeData& mime, const QPointF& point, bool own, bool move) {
@@ -491,7 +493,7 @@ void RichTextView::Drop(const QMimeData& mime, const QPointF& point, bool own, b
   if (!own) {
     Do([&](RichText& text) {
       text.SelStart(target);
-      InsertMimeData(text, mime, RichTextLayout::kColumnWidth);
+      InsertMimeData(text, mime, kColumnTwips);
     });
     return;
   }
@@ -557,13 +559,13 @@ void RichTextView::MoveCaret(const QTextCursor& cursor) {
 void RichTextView::MovePage(bool up, bool select) {
   Mirror();
   QTextCursor cursor = Caret();
-  const double page = viewport()->height() / DotsPerTwip() * 0.9;
+  const double page = viewport()->height() / PixelsPerDot() * 0.9;
   const QPointF from = CaretRect(cursor).center();
   const int position = layout_.document().documentLayout()->hitTest(
       from + QPointF(0, up ? -page : page), Qt::FuzzyHit);
   cursor.setPosition(position, select ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
   QScrollBar* bar = verticalScrollBar();
-  bar->setValue(bar->value() + (up ? -1 : 1) * static_cast<int>(page * DotsPerTwip()));
+  bar->setValue(bar->value() + (up ? -1 : 1) * static_cast<int>(page * PixelsPerDot()));
   MoveCaret(cursor);
 }
 
@@ -769,7 +771,7 @@ QRectF RichTextView::CaretRect(const QTextCursor& cursor) const {
   const QTextLayout& layout = *block.layout();
   const QTextLine line = layout.lineForTextPosition(cursor.positionInBlock());
   const QPointF origin = document().documentLayout()->blockBoundingRect(block).topLeft();
-  if (!line.isValid()) return {origin, QSizeF(kCaretWidth, 240)};
+  if (!line.isValid()) return {origin, QSizeF(kCaretWidth, 48)};
   const QPointF place(line.cursorToX(cursor.positionInBlock()), line.y());
   return {origin + place, QSizeF(kCaretWidth, line.height())};
 }
@@ -778,7 +780,7 @@ int RichTextView::PositionAt(const QPointF& point) const {
   return positions_.FromQt(document().documentLayout()->hitTest(point, Qt::FuzzyHit));
 }
 
-double RichTextView::DotsPerTwip() const {
+double RichTextView::PixelsPerDot() const {
   return logicalDpiX() * zoom_ / 100.0 / RichTextLayout::kDotsPerInch;
 }
 
@@ -792,7 +794,7 @@ void RichTextView::Zoom(int percent) {
 // The sheet is as high as its text, or as the window when that is more; its margins give way in a
 // narrow window before the column has to be scrolled.
 void RichTextView::PlaceSheet() {
-  const double scale = DotsPerTwip();
+  const double scale = PixelsPerDot();
   const double ground = kGround / scale;
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
   const double width = (this->width() - bar) / scale - 2 * ground;
@@ -807,9 +809,7 @@ void RichTextView::PlaceSheet() {
   viewport()->update();
 }
 
-void RichTextView::ScrollToTop() {
-  verticalScrollBar()->setValue(verticalScrollBar()->minimum());
-}
+void RichTextView::ScrollToTop() { verticalScrollBar()->setValue(verticalScrollBar()->minimum()); }
 
 void RichTextView::PlaceFindBar() {
   find_bar_->adjustSize();

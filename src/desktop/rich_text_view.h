@@ -131,9 +131,9 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
   template <class Deed>
   void Do(Deed deed);
 
-  QRectF CaretRect(const QTextCursor& cursor) const;  // twips, in the column
+  QRectF CaretRect(const QTextCursor& cursor) const;  // dots, in the column
   int PositionAt(const QPointF& point) const;         // of the box
-  double DotsPerTwip() const;
+  double PixelsPerDot() const;
   void PlaceSheet();
   void ScrollToTop();
   void PlaceFindBar();

@@ -205,7 +205,7 @@ QPushButton[main="true"] { background: @ink; color: @sheet; border-color: @ink; 
 QPushButton[main="true"]:hover { background: #2c4d7a; }
 QPushButton[main="true"]:pressed { background: @softink; }
 QPushButton[main="true"]:focus { border: 2px solid @brindle; }
-QPushButton[main="true"]:disabled { background: @mist; color: @sheet; border-color: @mist; }
+QPushButton[main="true"]:disabled { background: @mist; color: @softink; border-color: @mist; }
 QPushButton[small="true"] { min-width: 22px; padding: 4px 5px; border-color: @pale; }
 QPushButton[small="true"]:focus { padding: 3px 4px; border-color: @softink; }
 QPushButton[small="true"]:hover { background: @shade; }
@@ -224,10 +224,10 @@ QListView::item:hover { background: @paper; }
 QListView::item:selected { background: @mist; color: @ink; }
 
 QGroupBox {
-  border: 1px solid @pale; border-radius: 8px; margin-top: 1.1em; padding: 14px 12px 10px 12px;
-  font-weight: 600;
+  border: 1px solid @pale; border-radius: 8px; margin-top: 1.9em; padding: 14px 12px 10px 12px;
+  font-weight: 600; font-size: @grouppt;
 }
-QGroupBox::title { subcontrol-origin: margin; left: 12px; padding: 0 6px; }
+QGroupBox::title { subcontrol-origin: margin; subcontrol-position: top left; left: 0; padding: 0; }
 QGroupBox[plain="true"] { margin-top: 0; }
 
 QCheckBox, QRadioButton { spacing: 9px; padding: 3px 0; }
@@ -262,7 +262,7 @@ QString StyleSheet(double points) {
       {"@accent", palette::kAccent},   {"@faded", palette::kFaded},
   };
   const std::pair<const char*, double> sizes[] = {
-      {"@headingpt", 1.45}, {"@titlept", 2.9}, {"@subtitlept", 1.25}};
+      {"@headingpt", 1.45}, {"@titlept", 2.9}, {"@subtitlept", 1.25}, {"@grouppt", 1.15}};
   QString sheet = kStyleSheet;
   for (const auto& [name, colour] : colours) sheet.replace(name, colour.name());
   for (const auto& [name, factor] : sizes) {

@@ -30,12 +30,9 @@ FormWindow::FormWindow(Windows& windows, QWidget* owner, bool box)
                          : Qt::Window),
       windows_(windows),
       pages_(new QStackedLayout(this)) {
-  if (box) {
-    pages_->setSizeConstraint(QLayout::SetFixedSize);
-  } else {
-    pages_->setSizeConstraint(QLayout::SetNoConstraint);
-    setMinimumSize(kSmallestSize);
-  }
+  // The pages of screens that are left may be larger than what is on top.
+  pages_->setSizeConstraint(QLayout::SetNoConstraint);
+  if (!box) setMinimumSize(kSmallestSize);
 }
 
 FormView* FormWindow::Page() const { return static_cast<FormView*>(pages_->currentWidget()); }
@@ -43,6 +40,16 @@ FormView* FormWindow::Page() const { return static_cast<FormView*>(pages_->curre
 void FormWindow::ShowPage(FormView& page) {
   if (pages_->indexOf(&page) < 0) pages_->addWidget(&page);
   pages_->setCurrentWidget(&page);
+}
+
+void FormWindow::FitToPage() {
+  // The style's fonts and margins count.
+  ensurePolished();
+  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+  const QLayout& content = *Page()->layout();
+  QSize fit = content.totalSizeHint().expandedTo(Page()->minimumSize());
+  if (content.hasHeightForWidth()) fit.setHeight(content.totalHeightForWidth(fit.width()));
+  if (fit != size()) setFixedSize(fit);
 }
 
 bool FormWindow::event(QEvent* event) {
@@ -148,8 +155,8 @@ void Windows::FlushSoon() {
 void Windows::Flush() {
   flush_coming_ = false;
   ShowTopPage();
-  ShowBoxes();
   ShowChanges();
+  ShowBoxes();
   ShowFocus();
   Bury();
 }
@@ -231,8 +238,8 @@ void Windows::ShowBoxes() {
     if (form->kind() != FormKind::Box) continue;
     FormWindow& box = BoxFor(*form);
     box.setWindowTitle(ToQString(form->Caption));
+    box.FitToPage();
     if (box.isVisible()) continue;
-    box.adjustSize();
     box.move(main_->geometry().center() - box.rect().center());
     box.show();
   }

@@ -22,6 +22,8 @@ class FormWindow : public QWidget {
   // The page on top, or null.
   FormView* Page() const;
   void ShowPage(FormView& page);
+  // As large as its page needs, and no larger.
+  void FitToPage();
 
  protected:
   bool event(QEvent* event) override;
@@ -64,8 +66,8 @@ class Windows : public QObject {
 
  private:
   void ShowTopPage();
-  void ShowBoxes();
   void ShowChanges();
+  void ShowBoxes();
   void ShowFocus();
   void Bury();
   void TellSizes();

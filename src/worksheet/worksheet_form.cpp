@@ -49,6 +49,8 @@ void WorksheetForm::AddToolbarButtons() {
   Toolbar1.Add("QuickWord", "qw", "Open in Word Processor", "word-processor").Enabled = false;
   if (design_.has_key_button) Toolbar1.Add("Key", "", design_.key_tool_tip, "key");
   Toolbar1.Add("Quit", "quit", "Exit Brindlepage", "quit");
+  // Output is still to be built.
+  for (int number : {kPrint, kClipart, kSave}) Toolbar1.Button(number).Enabled = false;
   Toolbar1.ButtonClick = [this](ToolbarButton& button) { ToolbarClick(button.Caption); };
 }
 
