@@ -39,6 +39,7 @@ constexpr double kPaperMargin = 0.5 * RichTextLayout::kDotsPerInch;
 constexpr double kLeastMargin = kPaperMargin / 3;
 constexpr int kGround = 10;  // pixels around the sheet
 constexpr int kCaretWidth = 4;
+constexpr int kCaretHeight = 48;  // where there is no line yet
 
 constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwipsPerDot;
 
@@ -771,7 +772,7 @@ QRectF RichTextView::CaretRect(const QTextCursor& cursor) const {
   const QTextLayout& layout = *block.layout();
   const QTextLine line = layout.lineForTextPosition(cursor.positionInBlock());
   const QPointF origin = document().documentLayout()->blockBoundingRect(block).topLeft();
-  if (!line.isValid()) return {origin, QSizeF(kCaretWidth, 48)};
+  if (!line.isValid()) return {origin, QSizeF(kCaretWidth, kCaretHeight)};
   const QPointF place(line.cursorToX(cursor.positionInBlock()), line.y());
   return {origin + place, QSizeF(kCaretWidth, line.height())};
 }

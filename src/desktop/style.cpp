@@ -217,7 +217,9 @@ QLineEdit, QPlainTextEdit {
 QLineEdit:focus, QPlainTextEdit:focus { border: 2px solid @ink; padding: 5px 7px; }
 QComboBox QLineEdit, QComboBox QLineEdit:focus { border: none; padding: 0 2px; border-radius: 0; }
 
-QListView { background: @sheet; border: 1px solid @pale; border-radius: 8px; padding: 4px; outline: 0; }
+QListView {
+  background: @sheet; border: 1px solid @pale; border-radius: 8px; padding: 4px; outline: 0;
+}
 QListView:focus { border: 2px solid @softink; padding: 3px; }
 QListView::item { padding: 5px 8px; border-radius: 5px; color: @ink; }
 QListView::item:hover { background: @paper; }

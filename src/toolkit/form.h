@@ -47,7 +47,7 @@ class Form : public PropertyOwner {
   Runtime& runtime() const { return runtime_; }
   const Arrangement& arrangement() const { return arrangement_; }
 
-  // In the order of their making, which is the order of the Tab key too.
+  // In the order of their making. The Tab key follows the arrangement.
   const std::vector<Control*>& Controls() const { return controls_; }
   // A control by name, an element of an array by name and index; null if there is none.
   Control* FindControl(std::string_view name, int index = -1) const;
