@@ -7,6 +7,7 @@
 #include "core/pick_words.h"
 #include "core/title.h"
 #include "program/unbuilt_form.h"
+#include "quiz/quiz_form.h"
 #include "quiz/quiz_options.h"
 #include "quiz/quiz_options3.h"
 #include "quiz/quiz_options5.h"
@@ -45,7 +46,7 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::QuizOptions3, "QuizOptions3", Make<QuizOptions3>},
     {Screen::QuizOptions5, "QuizOptions5", Make<QuizOptions5>},
     {Screen::PuzzleSize, "PuzzleSize", MakeUnbuilt},
-    {Screen::QuizForm, "QuizForm", MakeUnbuilt},
+    {Screen::QuizForm, "QuizForm", Make<QuizForm>},
     {Screen::Scramble, "Scramble", MakeUnbuilt},
     {Screen::CodeForm, "CodeForm", MakeUnbuilt},
     {Screen::WordSearchForm, "WordSearchForm", MakeUnbuilt},

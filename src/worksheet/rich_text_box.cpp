@@ -1,6 +1,9 @@
 #include "worksheet/rich_text_box.h"
 
 #include "toolkit/code_page.h"
+#include "toolkit/files.h"
+#include "worksheet/rtf_reader.h"
+#include "worksheet/rtf_writer.h"
 
 namespace brindlepage {
 
@@ -12,6 +15,12 @@ RichTextBox::RichTextBox(Form& form, std::string name, std::string design_font,
 }
 
 RichTextBox::~RichTextBox() { StopObserving(this); }
+
+void RichTextBox::SaveFile(std::string_view path) const {
+  files::WriteBytes(path, WriteRtf(*this));
+}
+
+void RichTextBox::LoadFile(std::string_view path) { ReadRtf(files::ReadBytes(path), *this); }
 
 std::optional<brindlepage::Value> RichTextBox::Find(std::string_view property) const {
   using brindlepage::Value;

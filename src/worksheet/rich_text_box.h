@@ -16,6 +16,11 @@ class RichTextBox : public Control, public RichText, private RichTextObserver {
   RichTextBox(Form& form, std::string name, std::string design_font, double design_points);
   ~RichTextBox() override;
 
+  // Writes the document into a rich text file, and replaces it by one. Throw what files:: throws,
+  // and RunTimeError 321 for a file that is no rich text.
+  void SaveFile(std::string_view path) const;
+  void LoadFile(std::string_view path);
+
   // The caret or the selection moved. Unset while a document is composed.
   Event<> SelChange;
 

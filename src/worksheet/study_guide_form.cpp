@@ -9,6 +9,9 @@ constexpr WorksheetDesign kDesign = {
     .name = "StudyGuideForm",
     .caption = "Study Guide",
     .has_key_button = false,
+    .tag = "studyform",
+    .saved_start = "This Study Sheet has been saved in the ",
+    .saved_end = " . ",
     .name_line = compose::NameLine::Widest,
     .resize_key_box = false,
 };

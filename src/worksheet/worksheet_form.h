@@ -24,6 +24,12 @@ struct WorksheetDesign {
   bool has_answer_box1 = false;
   const char* key_tool_tip = "Switch Views Beween Worksheet and Answer Key";
 
+  // Output: the form's name for the screens that come back to it, the words around the file's name
+  // in the message after a save.
+  const char* tag = "";
+  const char* saved_start = "";
+  const char* saved_end = "";
+
   compose::NameLine name_line = compose::NameLine::Narrow;
 
   // Resizing: only above 2000 by 1000 twips, the key box along, what stays free of the height.
