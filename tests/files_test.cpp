@@ -85,11 +85,32 @@ TEST(FileName, ColonIsAllowedBehindADriveLetterAlone) {
   EXPECT_FAULT(52, NativePath("\\C:\\a.dat"));
 }
 
-TEST(FileName, CaseIsKept) {
+TEST(FileName, CaseTellsNoFilesApart) {
   TempFolder folder;
-  folder.Write("Riddles.dat", "x");
-  EXPECT_EQ(ReadBytes("Riddles.dat"), "x");
-  EXPECT_FAULT(53, ReadBytes("riddles.dat"));
+  fs::create_directory(folder.Path() / u8"\u00C9t\u00E9");
+  folder.Write(folder.Path() / u8"\u00C9t\u00E9" / "Riddles.dat", "x");
+  EXPECT_EQ(ReadBytes("\xE9T\xC9\\RIDDLES.dat"), "x");
+  WriteBytes("\xE9t\xE9\\riddles.DAT", "y");
+  EXPECT_EQ(FilesIn("\xC9t\xE9", "*.*"), Names{"Riddles.dat"});
+  EXPECT_EQ(ReadBytes(WorkingDirectory() + "\\\xE9t\xE9\\riddles.dat"), "y");
+  EXPECT_TRUE(FolderExists("\xC9T\xC9"));
+  EXPECT_FAULT(75, MakeFolder("\xC9T\xC9"));
+  EXPECT_FAULT(53, ReadBytes("\xC9t\xE9\\riddle.dat"));
+}
+
+TEST(FileName, AFileOfTheVeryNameComesBeforeOneOfAnotherCase) {
+  TempFolder folder;
+  folder.Write("riddles.dat", "small");
+  folder.Write("Riddles.dat", "large");
+  EXPECT_EQ(ReadBytes("riddles.dat"), "small");
+  EXPECT_EQ(ReadBytes("Riddles.dat"), "large");
+  EXPECT_EQ(ReadBytes("RIDDLES.DAT"), "large");
+}
+
+TEST(FileName, ANewFileKeepsTheCaseThatItIsGiven) {
+  TempFolder folder;
+  WriteBytes("Volcanoes.rtf", "x");
+  EXPECT_EQ(FilesIn(".", "*.rtf"), Names{"Volcanoes.rtf"});
 }
 
 TEST(FileName, TooLongIsRefused) {

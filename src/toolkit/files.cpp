@@ -80,6 +80,36 @@ bool Exists(const fs::path& path) {
   return fs::exists(path, error);
 }
 
+// The name in that folder that differs in case alone, the first of several; or empty.
+fs::path NameOfOtherCase(const fs::path& folder, const fs::path& name) {
+  const std::string wanted = code_page::LowerCase(code_page::FromUtf8(Utf8(name)));
+  fs::path found;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+       entry.increment(error)) {
+    const fs::path real_name = entry->path().filename();
+    if (code_page::LowerCase(code_page::FromUtf8(Utf8(real_name))) != wanted) continue;
+    if (found.empty() || real_name < found) found = real_name;
+  }
+  return found;
+}
+
+// Case tells no files apart on the teacher's desktop. Where it does, a name that isn't there as
+// it is written stands for the one that differs in case alone.
+fs::path WhateverItsCase(const fs::path& path) {
+  if (Exists(path)) return path;
+  fs::path real;
+  for (const fs::path& part : path) {
+    fs::path next = real / part;
+    if (!Exists(next)) {
+      const fs::path other = NameOfOtherCase(real.empty() ? fs::path(".") : real, part);
+      if (!other.empty()) next = real / other;
+    }
+    real = std::move(next);
+  }
+  return real;
+}
+
 bool FolderAboveIsMissing(const fs::path& path) {
   fs::path above = path.parent_path();
   return !above.empty() && !IsFolder(above);
@@ -209,10 +239,10 @@ fs::path NativePath(std::string_view name) {
     std::string_view rest = name.substr(shown.size());
     CheckParts(rest);
     while (!rest.empty() && IsSeparator(rest.front())) rest.remove_prefix(1);
-    return rest.empty() ? current : current / WithOwnSeparators(rest);
+    return rest.empty() ? current : WhateverItsCase(current / WithOwnSeparators(rest));
   }
   CheckParts(BehindDrive(name));
-  return WithOwnSeparators(name);
+  return WhateverItsCase(WithOwnSeparators(name));
 }
 
 LineReader::LineReader(std::string_view name) : content_(ReadBytes(name)) {}

@@ -24,6 +24,8 @@ namespace brindlepage::files {
 // a trailing separator. Characters that the code page lacks show as "?".
 std::string WorkingDirectory();
 
+// Case tells no names apart: one that isn't there as written is mapped to the one that differs in
+// case alone, the first of several.
 std::filesystem::path NativePath(std::string_view name);
 
 // Reads a text file by lines. A line ends with carriage return and line feed; a line feed or a
