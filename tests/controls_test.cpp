@@ -17,6 +17,8 @@ class Desk : public ProgramForm {
     Arrange(Column(Framed(Frame1, Column(Red, Blue)), Round, Square, Check, Bar, Name, Ok, Leave));
   }
   Frame Frame1{*this, "Frame1", "Colours"};
+  Menu Help{*this, "Help", "Help"};
+  MenuItem About{Help, "About", "About"};
   OptionButton Red{*this, "Red", "Red", true};
   OptionButton Blue{*this, "Blue", "Blue"};
   OptionButton Round{*this, "Round", "Round"};
@@ -139,6 +141,22 @@ TEST_F(ControlsTest, WhatStandsInAHiddenFrameIsNotOnScreen) {
   desk->Frame1.Visible = false;
   EXPECT_FALSE(desk->Red.CanAct());
   EXPECT_TRUE(desk->Round.CanAct());
+}
+
+TEST_F(ControlsTest, WhatStandsInADisabledFrameCanDoNothing) {
+  desk->Frame1.Enabled = false;
+  EXPECT_TRUE(desk->Red.OnScreen());
+  EXPECT_FALSE(desk->Red.CanAct());
+  EXPECT_TRUE(desk->Round.CanAct());
+}
+
+TEST_F(ControlsTest, AnItemOfAHiddenOrDisabledMenuCanDoNothing) {
+  EXPECT_TRUE(desk->About.CanAct());
+  desk->Help.Enabled = false;
+  EXPECT_FALSE(desk->About.CanAct());
+  desk->Help.Enabled = true;
+  desk->Help.Visible = false;
+  EXPECT_FALSE(desk->About.CanAct());
 }
 
 TEST_F(ControlsTest, AnArrayTellsItsElementsApartByTheirIndex) {

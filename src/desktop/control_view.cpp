@@ -17,6 +17,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "desktop/arranger.h"
 #include "desktop/icons.h"
 #include "desktop/large_button.h"
 #include "desktop/list_view.h"
@@ -174,10 +175,13 @@ class ButtonView : public ViewOf<CommandButton> {
   LetteredCaption caption_;
 };
 
-// A mark without a caption takes no more room than itself.
-void FitMark(QAbstractButton& mark, const std::string& caption) {
+// Shows a check box or an option button. Without a caption it takes no more room than its mark.
+template <class Kind>
+void SyncMark(QAbstractButton& mark, const Kind& box, LetteredCaption& caption) {
   constexpr int kMark = 24;  // pixels
-  mark.setMaximumWidth(caption.empty() ? kMark : QWIDGETSIZE_MAX);
+  mark.setText(caption.Of(box.Caption));
+  mark.setMaximumWidth(box.Caption().empty() ? kMark : QWIDGETSIZE_MAX);
+  mark.setChecked(box.Value);
 }
 
 // A mark that the control turns, not the widget.
@@ -200,11 +204,7 @@ class CheckBoxView : public ViewOf<CheckBox> {
   }
 
  protected:
-  void SyncState() override {
-    mark().setText(caption_.Of(box().Caption));
-    FitMark(mark(), box().Caption);
-    mark().setChecked(box().Value);
-  }
+  void SyncState() override { SyncMark(mark(), box(), caption_); }
 
  private:
   QCheckBox& mark() const { return static_cast<QCheckBox&>(*widget()); }
@@ -242,9 +242,7 @@ class OptionButtonView : public ViewOf<OptionButton> {
 
  protected:
   void SyncState() override {
-    mark().setText(caption_.Of(box().Caption));
-    FitMark(mark(), box().Caption);
-    mark().setChecked(box().Value);
+    SyncMark(mark(), box(), caption_);
     mark().setFocusPolicy(box().Value ? Qt::StrongFocus : Qt::ClickFocus);
   }
 
@@ -255,7 +253,11 @@ class OptionButtonView : public ViewOf<OptionButton> {
   void TurnOnNeighbour(int step) {
     if (control() == nullptr) return;
     std::vector<OptionButton*> group;
-    CollectGroup(box().form().arrangement(), group);
+    ForEachControl(box().form().arrangement(), [&](Control& neighbour) {
+      auto* option = dynamic_cast<OptionButton*>(&neighbour);
+      if (option == nullptr || option->container() != box().container()) return;
+      if (option->CanAct()) group.push_back(option);
+    });
     const auto here = std::find(group.begin(), group.end(), &box());
     if (here == group.end()) return;
     const auto count = static_cast<std::ptrdiff_t>(group.size());
@@ -265,14 +267,6 @@ class OptionButtonView : public ViewOf<OptionButton> {
       neighbour.UserClick();
       neighbour.SetFocus();
     });
-  }
-
-  void CollectGroup(const Arrangement& part, std::vector<OptionButton*>& group) const {
-    auto* option = dynamic_cast<OptionButton*>(part.control);
-    if (option != nullptr && option->container() == box().container() && option->CanAct()) {
-      group.push_back(option);
-    }
-    for (const Arrangement& inside : part.parts) CollectGroup(inside, group);
   }
 
   LetteredCaption caption_;
@@ -419,6 +413,17 @@ class ListBoxView : public ViewOf<ListBox> {
   ListRows rows_;
 };
 
+// Fills a combo box with the rows of a list when they have changed.
+template <class List>
+void SyncRows(QComboBox& combo, const List& list, QStringList& shown) {
+  QStringList rows;
+  for (int row = 0; row < list.ListCount(); ++row) rows << ToQString(list.List(row));
+  if (rows == shown) return;
+  shown = rows;
+  combo.clear();
+  combo.addItems(rows);
+}
+
 class DriveListView : public ViewOf<DriveListBox> {
  public:
   DriveListView(DriveListBox& drives, const ViewSetting& setting)
@@ -429,13 +434,7 @@ class DriveListView : public ViewOf<DriveListBox> {
 
  protected:
   void SyncState() override {
-    QStringList rows;
-    for (int row = 0; row < box().ListCount(); ++row) rows << ToQString(box().List(row));
-    if (rows != rows_) {
-      rows_ = rows;
-      combo().clear();
-      combo().addItems(rows);
-    }
+    SyncRows(combo(), box(), rows_);
     combo().setCurrentText(ToQString(box().Drive));
   }
 
@@ -472,13 +471,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
 
  protected:
   void SyncState() override {
-    QStringList rows;
-    for (int row = 0; row < box().ListCount(); ++row) rows << ToQString(box().List(row));
-    if (rows != rows_) {
-      rows_ = rows;
-      combo().clear();
-      combo().addItems(rows);
-    }
+    SyncRows(combo(), box(), rows_);
     SyncText();
   }
 

@@ -38,21 +38,19 @@ bool Is(const Control* control) {
 }
 
 // An option button or a check box whose caption is the label beside it.
-bool IsBareMark(const Control* control) {
-  if (const auto* option = dynamic_cast<const OptionButton*>(control)) {
+bool IsBareMark(Control* control) {
+  if (const auto* option = dynamic_cast<OptionButton*>(control)) {
     return option->Caption().empty();
   }
-  const auto* check = dynamic_cast<const CheckBox*>(control);
+  const auto* check = dynamic_cast<CheckBox*>(control);
   return check != nullptr && check->Caption().empty();
 }
 
 // Labels by the mark that they stand beside.
 void CollectPartners(const Arrangement& part, std::map<const Control*, Control*>& partners) {
-  const Control* mark = nullptr;
+  Control* mark = nullptr;
   for (const Arrangement& inside : part.parts) {
-    if (mark != nullptr && Is<Label>(inside.control)) {
-      partners[inside.control] = const_cast<Control*>(mark);
-    }
+    if (mark != nullptr && Is<Label>(inside.control)) partners[inside.control] = mark;
     mark = IsBareMark(inside.control) ? inside.control : nullptr;
     CollectPartners(inside, partners);
   }

@@ -19,8 +19,6 @@ namespace brindlepage {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
-
 // "Programs (*.exe)|*.exe|Pictures|*.bmp;*.jpg" as Qt writes it.
 QString ToQtFilter(std::string_view filter) {
   const QStringList parts = ToQString(filter).split('|');

@@ -5,11 +5,11 @@
 #include <QString>
 #include <algorithm>
 
+#include "toolkit/platform.h"
+
 namespace brindlepage {
 
 namespace {
-
-constexpr int kTwipsPerPixel = 15;  // at 96 dots to the inch
 
 std::shared_ptr<const RichPicture> PictureOf(const QImage& image, int widest) {
   QByteArray bytes;

@@ -24,6 +24,7 @@
 
 #include "desktop/rich_text_clipboard.h"
 #include "desktop/rich_text_find_bar.h"
+#include "desktop/style.h"
 
 namespace brindlepage {
 
@@ -42,9 +43,6 @@ constexpr int kCaretWidth = 4;
 constexpr int kCaretHeight = 48;  // where there is no line yet
 
 constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwipsPerDot;
-
-constexpr QRgb kGroundColour = 0xFFF1E7D6;
-constexpr QRgb kEdgeColour = 0xFFD5C6AC;
 
 // A format of a view's character that the box does not know; input methods can leave one.
 constexpr std::uint32_t kNoFormat = 0xFFFFFFFF;
@@ -681,17 +679,19 @@ QPoint RichTextView::IntoColumn(const QPoint& point) const {
   return mapFromScene(inside);
 }
 
+QMouseEvent RichTextView::InsideColumn(const QMouseEvent& event) const {
+  const QPoint point = IntoColumn(event.pos());
+  return QMouseEvent(event.type(), point, viewport()->mapToGlobal(point), event.button(),
+                     event.buttons(), event.modifiers());
+}
+
 void RichTextView::mousePressEvent(QMouseEvent* event) {
-  const QPoint point = IntoColumn(event->pos());
-  QMouseEvent inside(event->type(), point, viewport()->mapToGlobal(point), event->button(),
-                     event->buttons(), event->modifiers());
+  QMouseEvent inside = InsideColumn(*event);
   QGraphicsView::mousePressEvent(&inside);
 }
 
 void RichTextView::mouseDoubleClickEvent(QMouseEvent* event) {
-  const QPoint point = IntoColumn(event->pos());
-  QMouseEvent inside(event->type(), point, viewport()->mapToGlobal(point), event->button(),
-                     event->buttons(), event->modifiers());
+  QMouseEvent inside = InsideColumn(*event);
   QGraphicsView::mouseDoubleClickEvent(&inside);
 }
 
@@ -825,9 +825,9 @@ void RichTextView::resizeEvent(QResizeEvent* event) {
 }
 
 void RichTextView::drawBackground(QPainter* painter, const QRectF& exposed) {
-  painter->fillRect(exposed, QColor(kGroundColour));
+  painter->fillRect(exposed, palette::kPaperShade);
   painter->fillRect(paper_.intersected(exposed), Qt::white);
-  painter->setPen(QPen(QColor(kEdgeColour), 0));
+  painter->setPen(QPen(palette::kPale, 0));
   painter->drawRect(paper_);
 }
 

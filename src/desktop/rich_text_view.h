@@ -138,6 +138,7 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
   void ScrollToTop();
   void PlaceFindBar();
   QPoint IntoColumn(const QPoint& point) const;
+  QMouseEvent InsideColumn(const QMouseEvent& event) const;
 
   RichTextBox* box_;  // null once left
   Runtime& runtime_;

@@ -15,7 +15,6 @@ namespace brindlepage {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
 constexpr QSize kUsualSize{1000, 720};
 constexpr QSize kSmallestSize{640, 440};
 constexpr QSize kFrame{16, 40};  // about what a window's frame takes

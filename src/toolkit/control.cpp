@@ -16,6 +16,11 @@ bool Control::OnScreen() const {
   return container_ == nullptr || container_->OnScreen();
 }
 
+bool Control::CanAct() const {
+  if (!Enabled || !OnScreen()) return false;
+  return container_ == nullptr || container_->CanAct();
+}
+
 void Control::SetFocus() { form_.Focus(*this); }
 
 bool Control::HasFocus() const { return form_.Focused() == this; }

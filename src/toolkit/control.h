@@ -41,7 +41,8 @@ class Control : public PropertyOwner {
 
   // Visible, and so is all that it stands in.
   bool OnScreen() const;
-  bool CanAct() const { return OnScreen() && Enabled; }
+  // On screen and enabled, and so is all that it stands in.
+  virtual bool CanAct() const;
 
   void SetFocus();
   bool HasFocus() const;

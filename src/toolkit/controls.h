@@ -170,6 +170,8 @@ class MenuItem : public Control {
 
   Property<std::string> Caption;
   Menu& menu;
+
+  bool CanAct() const override { return Control::CanAct() && menu.CanAct(); }
 };
 
 class Toolbar;

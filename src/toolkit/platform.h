@@ -12,6 +12,9 @@ namespace brindlepage {
 class Control;
 class Form;
 
+// At 96 dots to the inch.
+inline constexpr int kTwipsPerPixel = 15;
+
 struct Size {
   int width = 0;  // twips, 1440 to the inch
   int height = 0;

@@ -79,15 +79,6 @@ const PropertyOwner* Scene::FindOwner(const Form& form, const NamePart& part) co
   return holder == nullptr ? nullptr : holder->Element(*part.index);
 }
 
-bool CanReach(const Control& control) {
-  if (!control.CanAct()) return false;
-  for (const Frame* frame = control.container(); frame != nullptr; frame = frame->container()) {
-    if (!frame->Enabled) return false;
-  }
-  const auto* item = dynamic_cast<const MenuItem*>(&control);
-  return item == nullptr || item->menu.CanAct();
-}
-
 bool TakesFocus(const Control& control) {
   return IsOneOf<CommandButton, TextBox, CheckBox, OptionButton, HScrollBar, ListBox, ComboBox,
                  RichTextBox>(control);

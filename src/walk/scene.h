@@ -42,10 +42,6 @@ class Scene {
   const ScreenNames& screen_names_;
 };
 
-// Whether a teacher can act on the control as it stands: it and all that it stands in is shown
-// and enabled.
-bool CanReach(const Control& control);
-
 // Whether acting on the control gives it the focus.
 bool TakesFocus(const Control& control);
 

@@ -424,7 +424,7 @@ bool Walk::ActOnForm(const std::string& name, const FormDeed& deed) {
 
 Control* Walk::Reachable(const Target& target, const Check& also) const {
   Control* control = scene().FindControl(target);
-  if (control == nullptr || !CanReach(*control)) return nullptr;
+  if (control == nullptr || !control->CanAct()) return nullptr;
   return also && !also(*control) ? nullptr : control;
 }
 

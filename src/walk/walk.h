@@ -24,7 +24,7 @@ struct WalkedProgram {
 };
 
 struct WalkSettings {
-  Size screen{1024 * 15, 768 * 15};      // twips
+  Size screen{1024 * kTwipsPerPixel, 768 * kTwipsPerPixel};
   std::int64_t draw_limit = 50'000'000;  // draws that one command may make
   // Where the files that a script names are looked for first, then in the working directory.
   std::filesystem::path script_folder;

@@ -11,7 +11,6 @@ Token Word(const std::string& text) { return {text, false}; }
 
 // "800x600", in pixels.
 Size ReadScreen(const std::string& text) {
-  constexpr int kTwipsPerPixel = 15;
   constexpr int kMost = 100'000;
   const auto cross = text.find('x');
   if (cross == std::string::npos) throw ScriptError("not a screen size: " + text);
