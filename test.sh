@@ -5,7 +5,7 @@ here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
 tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libgl-dev libgtest-dev python3 \
-  fonts-liberation poppler-utils
+  fonts-liberation poppler-utils xvfb xauth
 
 echo "Building in $here/build/check ..."
 [ -f build/check/build.ninja ] || cmake --preset check
