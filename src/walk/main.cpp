@@ -9,6 +9,12 @@
 #include "walk/walk.h"
 #include "walk/walk_arguments.h"
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <stdio.h>
+#endif
+
 namespace {
 
 using namespace brindlepage::walk;
@@ -43,6 +49,13 @@ void EnterFolder(const Arguments& arguments) {
   if (error) throw UsageError("no such folder: " + arguments.folder->string());
 }
 
+// A walk prints the same bytes on every system: a line ends with a line feed alone.
+void PrintBytesAsTheyAre() {
+#ifdef _WIN32
+  _setmode(_fileno(stdout), _O_BINARY);
+#endif
+}
+
 int Run(const std::vector<std::string>& words) {
   Arguments arguments = ReadArguments(words);
   arguments.settings.script_folder = std::filesystem::current_path();
@@ -55,6 +68,7 @@ int Run(const std::vector<std::string>& words) {
 }  // namespace
 
 int main(int count, char** arguments) {
+  PrintBytesAsTheyAre();
   try {
     return Run(std::vector<std::string>(arguments + 1, arguments + count));
   } catch (const UsageError& error) {
