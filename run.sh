@@ -11,18 +11,11 @@ echo "Building in $here/build/release ..."
 [ -f build/release/build.ninja ] || cmake --preset release
 cmake --build --preset release --target brindlepage brindlepage-walk
 
-# A teacher's lists live in the teacher's own folder, never in the source tree.
-folder="${XDG_DATA_HOME:-$HOME/.local/share}/brindlepage"
-if [ ! -f "$folder/brindlepage.dat" ]; then
-  echo "Making the program folder $folder"
-  mkdir -p "$folder"
-  cp -R program_folder/. "$folder/"
-fi
-
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-  echo "Starting Brindlepage on $folder"
-  cd "$folder"
-  exec "$here/build/release/brindlepage"
+  echo "Starting Brindlepage"
+  export BRINDLEPAGE_PROGRAM="$here/build/release/brindlepage"
+  export BRINDLEPAGE_FRESH_FOLDER="$here/program_folder"
+  exec packaging/brindlepage
 fi
 
 sheets="$here/build/sheets"

@@ -5,7 +5,7 @@ screens, and the icon.
     tools/draw_pictures.py [ROOT]
 
 ROOT defaults to this script's parent folder. Written are program_folder/titleback.jpg,
-program_folder/brindlepagebackground.jpg, tools/brindlepage.svg and tools/brindlepage.png.
+program_folder/brindlepagebackground.jpg, packaging/brindlepage.svg and packaging/brindlepage.png.
 The same versions of the packages always give the same bytes.
 
 Needs the Debian packages python3-cairo, python3-pil and fonts-dejavu-core.
@@ -401,8 +401,8 @@ def main():
     root = Path(sys.argv[1]) if len(sys.argv) > 1 else Path(__file__).resolve().parent.parent
     title_backdrop().save_jpeg(root / "program_folder" / "titleback.jpg", 86)
     screen_background().save_jpeg(root / "program_folder" / "brindlepagebackground.jpg", 88)
-    write_icon_svg(root / "tools" / "brindlepage.svg")
-    write_icon_png(root / "tools" / "brindlepage.png")
+    write_icon_svg(root / "packaging" / "brindlepage.svg")
+    write_icon_png(root / "packaging" / "brindlepage.png")
 
 
 if __name__ == "__main__":
