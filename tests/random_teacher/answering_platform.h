@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+
+#include "walk/walk_platform.h"
+
+namespace brindlepage {
+
+// Hands everything on to a walk's window system, and has each box answered just before it opens.
+class AnsweringPlatform : public Platform {
+ public:
+  enum class Box { Message, YesNo, YesNoCancel, Input, Print, Open };
+  // Gives the answer as a script writes it, or "" for none.
+  using Answers = std::function<std::string(Box)>;
+
+  AnsweringPlatform(walk::WalkPlatform& platform, Answers answers)
+      : platform_(platform), answers_(std::move(answers)) {}
+
+  BoxAnswer MessageBox(std::string_view text, std::string_view title, BoxButtons buttons) override {
+    Answer(buttons == BoxButtons::Ok      ? Box::Message
+           : buttons == BoxButtons::YesNo ? Box::YesNo
+                                          : Box::YesNoCancel);
+    return platform_.MessageBox(text, title, buttons);
+  }
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                      std::string_view text) override {
+    Answer(Box::Input);
+    return platform_.InputBox(prompt, title, text);
+  }
+  std::optional<PrintChoice> PrintDialog(unsigned flags) override {
+    Answer(Box::Print);
+    return platform_.PrintDialog(flags);
+  }
+  std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
+                                        std::string_view folder) override {
+    Answer(Box::Open);
+    return platform_.OpenDialog(title, filter, folder);
+  }
+
+  void Print(Control& box, int start, int length) override { platform_.Print(box, start, length); }
+  void StartProgram(std::string_view command) override { platform_.StartProgram(command); }
+  void Beep() override { platform_.Beep(); }
+  Size ScreenSize() const override { return platform_.ScreenSize(); }
+  std::vector<std::string> ScreenFonts() const override { return platform_.ScreenFonts(); }
+  Milliseconds Now() const override { return platform_.Now(); }
+  void FatalError(int number, std::string_view text) override {
+    platform_.FatalError(number, text);
+  }
+  void FormActivated(Form&) override {}
+  void FormHidden(Form&) override {}
+  void FormUnloaded(Form&) override {}
+  void FormChanged(Form&) override {}
+  void ControlChanged(Control&) override {}
+
+ private:
+  void Answer(Box box) {
+    const std::string answer = answers_(box);
+    if (!answer.empty()) platform_.QueueAnswer(walk::ReadTokens(answer).front());
+  }
+
+  walk::WalkPlatform& platform_;
+  Answers answers_;
+};
+
+}  // namespace brindlepage

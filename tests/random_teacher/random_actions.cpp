@@ -1,0 +1,155 @@
+#include "tests/random_teacher/random_actions.h"
+
+#include "toolkit/code_page.h"
+#include "toolkit/controls.h"
+#include "toolkit/file_lists.h"
+#include "walk/print.h"
+#include "worksheet/rich_text_box.h"
+
+namespace brindlepage {
+
+namespace {
+
+using walk::PrintedName;
+using walk::Quoted;
+using walk::QuotedBytes;
+
+const std::vector<std::string> kKeys = {"Enter", "Escape", "Space", "Up",  "Down",   "Left",
+                                        "Right", "Home",   "End",   "Tab", "Delete", "x"};
+
+// Folders within the program's own, and one that isn't there. The teacher never leaves them.
+const std::vector<std::string> kFolders = {"worksheets", "class", "missing", "."};
+
+template <class Kind>
+const Kind* As(const Control& control) {
+  return dynamic_cast<const Kind*>(&control);
+}
+
+bool Quits(const Control& control) {
+  return walk::Printed(control.Find("Caption").value_or(Value(""))).find("Quit") !=
+         std::string::npos;
+}
+
+}  // namespace
+
+int RandomActions::Below(int limit) {
+  return static_cast<int>(random_() % static_cast<std::uint64_t>(limit));
+}
+
+std::string RandomActions::Text() {
+  static const std::vector<std::string> kTexts = {"lava",
+                                                  "ash",
+                                                  "a",
+                                                  "",
+                                                  " ",
+                                                  "Mount Etna",
+                                                  "caf\u00e9",
+                                                  "\u03a9",
+                                                  "*****",
+                                                  "*",
+                                                  "12",
+                                                  "x-ray",
+                                                  "hot rock",
+                                                  "a\"b",
+                                                  "c:\\d",
+                                                  "what?",
+                                                  "<New List>",
+                                                  "No Lists",
+                                                  "antidisestablishment",
+                                                  "Volcanoes",
+                                                  "Planets",
+                                                  "tab\there"};
+  if (OneIn(3)) {
+    std::string word;
+    for (int length = 1 + Below(20); length > 0; --length) {
+      word += static_cast<char>('a' + Below(26));
+    }
+    return word;
+  }
+  return AnyOf(kTexts);
+}
+
+std::string RandomActions::Next(Program& program) {
+  if (OneIn(8)) return "tick " + std::to_string(1 + Below(OneIn(10) ? 60'000 : 50));
+  std::vector<const Form*> shown;
+  for (const auto& form : program.forms().Loaded()) {
+    if (form->Visible) shown.push_back(form.get());
+  }
+  if (shown.empty()) return "tick 1000";
+  const Form* active = program.forms().Active();
+  const Form& form = active != nullptr && !OneIn(6) ? *active : *AnyOf(shown);
+  if (OneIn(30) || form.Controls().empty()) return OnForm(form);
+
+  std::vector<const Control*> reachable;
+  for (const Control* control : form.Controls()) {
+    // A teacher who is always leaving sees little.
+    if (Quits(*control) && !OneIn(20)) continue;
+    if (control->CanAct() || OneIn(20)) reachable.push_back(control);
+  }
+  return reachable.empty() ? OnForm(form) : OnControl(*AnyOf(reachable));
+}
+
+std::string RandomActions::OnForm(const Form& form) {
+  switch (Below(6)) {
+    case 0:
+      if (!OneIn(4)) return "activate " + form.Name();
+      return "close " + form.Name();
+    case 1:
+      return "deactivate " + form.Name();
+    case 2:
+      return "resize " + form.Name() + " " + std::to_string(Below(20'000)) + " " +
+             std::to_string(Below(15'000));
+    case 3:
+      return "click " + form.Name();
+    case 4:
+      return "press " + form.Name() + " " + AnyOf(kKeys);
+    default:
+      return "activate " + form.Name();
+  }
+}
+
+std::string RandomActions::OnControl(const Control& control) {
+  const std::string name = PrintedName(control);
+  if (const auto* bar = As<Toolbar>(control)) {
+    auto& button = const_cast<Toolbar*>(bar)->Button(1 + Below(bar->ButtonCount()));
+    return "click " + name + " " + QuotedBytes(button.Caption());
+  }
+  // To other drives, or up out of the program's folder, the teacher doesn't go.
+  if (As<DriveListBox>(control)) return "click " + name;
+  if (As<DirListBox>(control)) return "folder " + name + " " + Quoted(AnyOf(kFolders));
+  if (As<TextBox>(control)) {
+    if (OneIn(3)) return "press " + name + " " + AnyOf(kKeys);
+    return "type " + name + " " + Quoted(Text());
+  }
+  if (const auto* combo = As<ComboBox>(control)) {
+    if (OneIn(4)) return "select " + name + " " + Quoted(Text());
+    return "select " + name + " " + std::to_string(Below(std::max(combo->ListCount(), 1)));
+  }
+  if (const auto* bar = As<HScrollBar>(control)) {
+    return "set " + name + " " +
+           std::to_string(bar->Min() - 1 + Below(bar->Max() - bar->Min() + 3));
+  }
+  if (const auto* list = As<ListBox>(control)) return OnList(name, *list);
+  if (const auto* box = As<RichTextBox>(control)) return OnDocument(name, *box);
+  if (OneIn(12)) return "press " + name + " " + AnyOf(kKeys);
+  return "click " + name;
+}
+
+std::string RandomActions::OnList(const std::string& name, const ListBox& list) {
+  if (list.ListCount() == 0 || OneIn(8)) return "press " + name + " " + AnyOf(kKeys);
+  const std::string row = std::to_string(Below(list.ListCount()));
+  if (OneIn(6)) return "double " + name + " " + row;
+  if (list.style() != ListStyle::CheckBoxes) return "select " + name + " " + row;
+  std::string line = "mark " + name + " " + row;
+  for (int more = Below(12); more > 0; --more)
+    line += " " + std::to_string(Below(list.ListCount()));
+  return line;
+}
+
+std::string RandomActions::OnDocument(const std::string& name, const RichTextBox& box) {
+  if (OneIn(2)) return "insert " + name + " " + Quoted(Text());
+  std::string line = "caret " + name + " " + std::to_string(Below(box.Length() + 2));
+  return OneIn(2) ? line : line + " " + std::to_string(1 + Below(200));
+}
+
+}  // namespace brindlepage

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string_view>
+
+namespace brindlepage {
+
+// Whether the program is meant to end like this. `end` is as Ends tells it.
+bool IsStatedEnd(std::string_view end);
+
+}  // namespace brindlepage
