@@ -273,8 +273,17 @@ TEST_F(ControlsTest, SelectingAnEntryOfAComboRaisesItsClick) {
   EXPECT_EQ(combo.Text(), "");
   EXPECT_EQ(clicks, 1);
   combo.PickRow(0);
-  combo.Type("12");
+  combo.Type(U"12");
   EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(ControlsTest, AComboRefusesWhatTheCodePageLacksWithABeep) {
+  ComboBox combo(*desk, "combo");
+  std::string confirmed;
+  combo.Click = [&] { confirmed = combo.Text(); };
+  combo.Type(U"Caf\u00E9 \u4E2D\n");
+  EXPECT_EQ(confirmed, "Caf\xE9 ");
+  EXPECT_EQ(platform.log, std::vector<std::string>{"beep"});
 }
 
 TEST_F(ControlsTest, AComboOfNoRowGoesBlankEvenIfATextWasTyped) {

@@ -276,11 +276,7 @@ class OptionButtonView : public ViewOf<OptionButton> {
 
 // How many of these characters a box of words takes.
 int CountTaken(const QString& text) {
-  int count = 0;
-  for (const char32_t c : text.toStdU32String()) {
-    if (code_page::FromUnicode(c) && c >= 0x20 && c != 0x7F) ++count;
-  }
-  return count;
+  return static_cast<int>(code_page::KeepTypeable(text.toStdU32String()).size());
 }
 
 class TextBoxView : public ViewOf<TextBox> {
@@ -490,7 +486,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
   void Confirm() {
     const QString text = combo().currentText();
     if (combo().findText(text, Qt::MatchFixedString) >= 0) return;
-    Act([&](ComboBox& box) { box.Type(FromQString(text)); });
+    Act([&](ComboBox& box) { box.Type(text.toStdU32String()); });
   }
 
   QStringList rows_;

@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "toolkit/code_page.h"
+#include "toolkit/form.h"
+#include "toolkit/platform.h"
+#include "toolkit/runtime.h"
 
 namespace brindlepage {
 
@@ -191,8 +194,10 @@ void ComboBox::PickRow(int row) {
   Click();
 }
 
-void ComboBox::Type(std::string text) {
-  Text = std::move(text);
+void ComboBox::Type(std::u32string_view text) {
+  std::string kept = code_page::KeepTypeable(text);
+  if (kept.size() != text.size()) form().runtime().platform().Beep();
+  Text = std::move(kept);
   Click();
 }
 

@@ -85,9 +85,10 @@ class ComboBox : public Control {
 
   // Picks a row; Click is raised.
   void PickRow(int row);
-  // Types a text and confirms it. A text of the list is picked; any other raises Click as well,
-  // so that a size or font that the list lacks can be asked for.
-  void Type(std::string text);
+  // Types a text and confirms it; what no box of words takes is refused with a beep. A text of the
+  // list is picked; any other raises Click as well, so that a size or font that the list lacks can
+  // be asked for.
+  void Type(std::u32string_view text);
   void Press(Key key) override;
 
  private:
