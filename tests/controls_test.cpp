@@ -247,6 +247,31 @@ TEST_F(ControlsTest, AKeyThatMovesTheSelectionClicksWhereNoHandlerIsSet) {
   EXPECT_EQ(keys, 1);
 }
 
+TEST_F(ControlsTest, SpaceWithNoRowSelectedActsOnTheFirst) {
+  ListBox plain(*desk, "plain");
+  int clicks = 0;
+  plain.Click = [&] { ++clicks; };
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.ListIndex, -1);
+  EXPECT_EQ(clicks, 0);
+  plain.AddItem("a");
+  plain.AddItem("b");
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.Text(), "a");
+  EXPECT_EQ(clicks, 1);
+  plain.ListIndex.Put(1);
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.Text(), "b");
+  EXPECT_EQ(clicks, 1);
+
+  ListBox marks(*desk, "marks", ListStyle::CheckBoxes);
+  marks.AddItem("a");
+  marks.AddItem("b");
+  marks.Press(Key::Space);
+  EXPECT_TRUE(marks.Selected(0));
+  EXPECT_EQ(marks.ListIndex, 0);
+}
+
 TEST_F(ControlsTest, AClickOnTheEmptyPartOfAListSelectsNothing) {
   ListBox list(*desk, "list");
   int clicks = 0;

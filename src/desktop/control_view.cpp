@@ -374,7 +374,7 @@ class ListBoxView : public ViewOf<ListBox> {
         box.UserDoubleClick();
       });
     };
-    list().on_key = [this](Key key) { Act([key](ListBox& box) { Press(box, key); }); };
+    list().on_key = [this](Key key) { Act([key](ListBox& box) { box.Press(key); }); };
     list().on_search = [this](int row) { Act([row](ListBox& box) { box.ClickRow(row); }); };
     if (dynamic_cast<DirListBox*>(&list_box) != nullptr) {
       list().on_enter = [this] { Act([](ListBox& box) { box.UserDoubleClick(); }); };
@@ -397,13 +397,6 @@ class ListBoxView : public ViewOf<ListBox> {
     } else {
       box.ClickRow(row);
     }
-  }
-
-  static void Press(ListBox& box, Key key) {
-    // The list shows its first row as the one that the keys are at.
-    const bool first = key == Key::Space && box.ListIndex < 0 && box.ListCount() > 0;
-    if (first) box.ListIndex.Put(0);
-    box.Press(key);
   }
 
   ListRows rows_;

@@ -124,10 +124,15 @@ void ListBox::Press(Key key) {
       row = ListCount() - 1;
       break;
     case Key::Space:
-      if (style_ != ListStyle::CheckBoxes) return;
-      ClickCheck(row);
-      KeyUp();
-      return;
+      // With no row selected the keys are at the first.
+      if (style_ == ListStyle::CheckBoxes) {
+        ClickCheck(std::max(row, 0));
+        KeyUp();
+        return;
+      }
+      if (row >= 0) return;
+      row = 0;
+      break;
     default:
       return Control::Press(key);
   }

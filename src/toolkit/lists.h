@@ -48,6 +48,8 @@ class ListBox : public Control {
   // Turns the mark of the row; the row is selected as well.
   void ClickCheck(int row);
   void DoubleClickRow(int row);
+  // The arrows, Home, End and the page keys move the selection; Space turns the selected row's
+  // mark, or selects. With no row selected Space acts on the first.
   void Press(Key key) override;
 
  protected:
