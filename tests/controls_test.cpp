@@ -272,6 +272,22 @@ TEST_F(ControlsTest, SpaceWithNoRowSelectedActsOnTheFirst) {
   EXPECT_EQ(marks.ListIndex, 0);
 }
 
+TEST_F(ControlsTest, AKeyThatLeadsToARowIsNoClickWhereAHandlerIsSet) {
+  ListBox list(*desk, "list");
+  list.AddItems({"a", "b", "c"});
+  EXPECT_EQ(list.Rows(), (std::vector<std::string>{"a", "b", "c"}));
+  int clicks = 0, keys = 0;
+  list.Click = [&] { ++clicks; };
+  list.MoveByKey(1);
+  EXPECT_EQ(list.Text(), "b");
+  EXPECT_EQ(clicks, 1);
+  list.KeyUp = [&] { ++keys; };
+  list.MoveByKey(7);
+  EXPECT_EQ(list.Text(), "c");
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(keys, 1);
+}
+
 TEST_F(ControlsTest, AClickOnTheEmptyPartOfAListSelectsNothing) {
   ListBox list(*desk, "list");
   int clicks = 0;

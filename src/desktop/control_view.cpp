@@ -375,7 +375,7 @@ class ListBoxView : public ViewOf<ListBox> {
       });
     };
     list().on_key = [this](Key key) { Act([key](ListBox& box) { box.Press(key); }); };
-    list().on_search = [this](int row) { Act([row](ListBox& box) { box.ClickRow(row); }); };
+    list().on_search = [this](int row) { Act([row](ListBox& box) { box.MoveByKey(row); }); };
     if (dynamic_cast<DirListBox*>(&list_box) != nullptr) {
       list().on_enter = [this] { Act([](ListBox& box) { box.UserDoubleClick(); }); };
     }

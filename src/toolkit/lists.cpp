@@ -35,6 +35,10 @@ void ListBox::AddItem(std::string text, int at) {
   Changed();
 }
 
+void ListBox::AddItems(std::vector<std::string> texts) {
+  for (std::string& text : texts) AddItem(std::move(text));
+}
+
 void ListBox::RemoveItem(int row) {
   At(row);
   rows_.erase(rows_.begin() + row);
@@ -61,6 +65,13 @@ const std::string& ListBox::List(int row) const {
 void ListBox::List(int row, std::string text) {
   At(row).text = std::move(text);
   Changed();
+}
+
+std::vector<std::string> ListBox::Rows() const {
+  std::vector<std::string> texts;
+  texts.reserve(rows_.size());
+  for (const Row& row : rows_) texts.push_back(row.text);
+  return texts;
 }
 
 bool ListBox::Selected(int row) const {
@@ -136,6 +147,10 @@ void ListBox::Press(Key key) {
     default:
       return Control::Press(key);
   }
+  MoveByKey(row);
+}
+
+void ListBox::MoveByKey(int row) {
   if (ListCount() == 0) return;
   ListIndex.Put(std::clamp(row, 0, ListCount() - 1));
   if (KeyUp) {

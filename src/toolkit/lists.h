@@ -27,12 +27,14 @@ class ListBox : public Control {
   void AddItem(std::string text);
   // Puts the row in front of row `at`, sorted or not.
   void AddItem(std::string text, int at);
+  void AddItems(std::vector<std::string> texts);
   void RemoveItem(int row);
   void Clear();
 
   int ListCount() const { return static_cast<int>(rows_.size()); }
   const std::string& List(int row) const;
   void List(int row, std::string text);
+  std::vector<std::string> Rows() const;
   // The selected row's text, or "".
   const std::string& Text() const { return List(ListIndex); }
 
@@ -51,6 +53,8 @@ class ListBox : public Control {
   // The arrows, Home, End and the page keys move the selection; Space turns the selected row's
   // mark, or selects. With no row selected Space acts on the first.
   void Press(Key key) override;
+  // A key led the selection to this row, or to the end that is nearest to it.
+  void MoveByKey(int row);
 
  protected:
   // What a list of files or folders does when it moved.
