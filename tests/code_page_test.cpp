@@ -191,6 +191,13 @@ TEST(SortOrder, LettersCountBeforeAccentsAndAccentsBeforeCase) {
   ExpectOrder({"Resume a", "r\xE9sum\xE9 b"});
 }
 
+TEST(CodePage, ABoxOfWordsKeepsWhatTheCodePageHasAndNoLineEnds) {
+  EXPECT_EQ(KeepTypeable(U"na\u00EFve \u20AC\u00FF~"), "na\xEFve \x80\xFF~");
+  EXPECT_EQ(KeepTypeable(U"a\u4E2Db\u0100\U0001F600c\uFFFD"), "abc");
+  EXPECT_EQ(KeepTypeable(std::u32string_view(U"one\r\ntwo\tthree\x7F")), "onetwothree");
+  EXPECT_EQ(KeepTypeable(U""), "");
+}
+
 TEST(SortOrder, ShorterTextComesFirst) { ExpectOrder({"sun", "sun dial", "sunday"}); }
 
 TEST(SortOrder, IsTotalOverAllBytes) {

@@ -247,6 +247,47 @@ TEST_F(ControlsTest, AKeyThatMovesTheSelectionClicksWhereNoHandlerIsSet) {
   EXPECT_EQ(keys, 1);
 }
 
+TEST_F(ControlsTest, SpaceWithNoRowSelectedActsOnTheFirst) {
+  ListBox plain(*desk, "plain");
+  int clicks = 0;
+  plain.Click = [&] { ++clicks; };
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.ListIndex, -1);
+  EXPECT_EQ(clicks, 0);
+  plain.AddItem("a");
+  plain.AddItem("b");
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.Text(), "a");
+  EXPECT_EQ(clicks, 1);
+  plain.ListIndex.Put(1);
+  plain.Press(Key::Space);
+  EXPECT_EQ(plain.Text(), "b");
+  EXPECT_EQ(clicks, 1);
+
+  ListBox marks(*desk, "marks", ListStyle::CheckBoxes);
+  marks.AddItem("a");
+  marks.AddItem("b");
+  marks.Press(Key::Space);
+  EXPECT_TRUE(marks.Selected(0));
+  EXPECT_EQ(marks.ListIndex, 0);
+}
+
+TEST_F(ControlsTest, AKeyThatLeadsToARowIsNoClickWhereAHandlerIsSet) {
+  ListBox list(*desk, "list");
+  list.AddItems({"a", "b", "c"});
+  EXPECT_EQ(list.Rows(), (std::vector<std::string>{"a", "b", "c"}));
+  int clicks = 0, keys = 0;
+  list.Click = [&] { ++clicks; };
+  list.MoveByKey(1);
+  EXPECT_EQ(list.Text(), "b");
+  EXPECT_EQ(clicks, 1);
+  list.KeyUp = [&] { ++keys; };
+  list.MoveByKey(7);
+  EXPECT_EQ(list.Text(), "c");
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(keys, 1);
+}
+
 TEST_F(ControlsTest, AClickOnTheEmptyPartOfAListSelectsNothing) {
   ListBox list(*desk, "list");
   int clicks = 0;
@@ -273,8 +314,17 @@ TEST_F(ControlsTest, SelectingAnEntryOfAComboRaisesItsClick) {
   EXPECT_EQ(combo.Text(), "");
   EXPECT_EQ(clicks, 1);
   combo.PickRow(0);
-  combo.Type("12");
+  combo.Type(U"12");
   EXPECT_EQ(clicks, 3);
+}
+
+TEST_F(ControlsTest, AComboRefusesWhatTheCodePageLacksWithABeep) {
+  ComboBox combo(*desk, "combo");
+  std::string confirmed;
+  combo.Click = [&] { confirmed = combo.Text(); };
+  combo.Type(U"Caf\u00E9 \u4E2D\n");
+  EXPECT_EQ(confirmed, "Caf\xE9 ");
+  EXPECT_EQ(platform.log, std::vector<std::string>{"beep"});
 }
 
 TEST_F(ControlsTest, AComboOfNoRowGoesBlankEvenIfATextWasTyped) {

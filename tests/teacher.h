@@ -38,8 +38,10 @@ class NotingPlatform : public Platform {
   }
   std::optional<PrintChoice> PrintDialog(unsigned) override { return std::nullopt; }
   void Print(Control&, int, int) override {}
-  std::optional<std::string> OpenDialog(std::string_view, std::string_view,
-                                        std::string_view) override {
+  std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
+                                        std::string_view start) override {
+    log.push_back(std::string(title) + "|" + std::string(filter) + "|" + std::string(start));
+    if (on_open_dialog) return on_open_dialog();
     return std::nullopt;
   }
   void StartProgram(std::string_view) override {}
@@ -60,6 +62,7 @@ class NotingPlatform : public Platform {
 
   std::vector<std::string> events;
   int changes = 0;
+  std::function<std::optional<std::string>()> on_open_dialog;  // unset: cancelled
 };
 
 // The whole program in a folder of its own, and a teacher at its controls.

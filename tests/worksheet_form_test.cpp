@@ -1,6 +1,7 @@
 #include "worksheet/worksheet_form.h"
 
 #include "tests/teacher.h"
+#include "toolkit/code_page.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -194,12 +195,12 @@ TEST_F(WorksheetFormTest, TheFontCombosSetTheSelectionAndGiveTheFocusBack) {
 TEST_F(WorksheetFormTest, ATypedSizeIsTakenAndWhatIsNoSizeIsRefusedWithABeep) {
   Open();
   SelectText(0, 4);
-  desk.Dispatch([&] { sheet->cmbFontSize.Type("13.5"); });
+  desk.Dispatch([&] { sheet->cmbFontSize.Type(U"13.5"); });
   EXPECT_EQ(sheet->QuizBox.FormatAt(0).size, 270);
-  for (const char* text : {"", "big", "12x", "0", "-3", "99999"}) {
+  for (const char32_t* text : {U"", U"big", U"12x", U"0", U"-3", U"99999"}) {
     desk.Dispatch([&] { sheet->cmbFontSize.Type(text); });
-    EXPECT_EQ(sheet->QuizBox.FormatAt(0).size, 270) << text;
-    EXPECT_EQ(sheet->cmbFontSize.Text(), "13.5") << text;
+    EXPECT_EQ(sheet->QuizBox.FormatAt(0).size, 270) << code_page::UnicodeToUtf8(text);
+    EXPECT_EQ(sheet->cmbFontSize.Text(), "13.5") << code_page::UnicodeToUtf8(text);
   }
   EXPECT_EQ(platform.log.size(), 6u);
   EXPECT_FALSE(desk.Ended());

@@ -25,9 +25,7 @@ void ChooseList::Load() {
   CentreForm();
   LoadBackground();
   shared.CurrentListName = "";
-  for (std::string& name : list_file::FillListNames(shared.ListFilePath)) {
-    TheLists.AddItem(std::move(name));
-  }
+  TheLists.AddItems(list_file::FillListNames(shared.ListFilePath));
 }
 
 void ChooseList::Begin() {

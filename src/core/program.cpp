@@ -7,6 +7,11 @@ void ProgramForm::StepTo(Screen next) {
   Unload();
 }
 
+void ProgramForm::LeaveFor(Screen next) {
+  Unload();
+  forms().Show(next);
+}
+
 void ProgramForm::LoadBackground() {
   Picture = LoadPicture(shared.ProgramDir + "\\brindlepagebackground.jpg");
 }

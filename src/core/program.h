@@ -31,6 +31,8 @@ class ProgramForm : public Form {
 
   // Shows the next screen, whose load runs at once, then unloads this one.
   void StepTo(Screen next);
+  // The other way round: unloads this screen, then shows the next.
+  void LeaveFor(Screen next);
   void Unload() { forms().Unload(id()); }
   // Loads the picture that stands behind every screen but the menu and the small boxes.
   void LoadBackground();

@@ -100,16 +100,12 @@ void Title::ReadSettings() {
 }
 
 void Title::LoadSettingsLines() {
-  for (std::string& line : files::ReadAllLines(shared.ProgramDir + "\\brindlepage.dat")) {
-    Data.AddItem(std::move(line));
-  }
+  Data.AddItems(files::ReadAllLines(shared.ProgramDir + "\\brindlepage.dat"));
 }
 
 void Title::MarkFirstStart() {
   Data.List(settings_file::kWordProcessorLine, std::string(settings_file::kNoWordProcessor));
-  std::vector<std::string> lines;
-  for (int row = 0; row < Data.ListCount(); ++row) lines.push_back(Data.List(row));
-  files::WriteAllLines(settings_file::kFileName, lines);
+  files::WriteAllLines(settings_file::kFileName, Data.Rows());
 }
 
 void Title::EnsureWorksheetsFolder() {

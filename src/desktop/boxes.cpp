@@ -52,11 +52,7 @@ class CodePageLine : public QLineEdit {
  private:
   void RefuseForeign() {
     const auto known = [](const QString& part) {
-      std::u32string kept;
-      for (const char32_t c : part.toStdU32String()) {
-        if (code_page::FromUnicode(c)) kept.push_back(c);
-      }
-      return QString::fromStdU32String(kept);
+      return ToQString(code_page::KeepTypeable(part.toStdU32String()));
     };
     const QString kept = known(text());
     if (kept == text()) return;

@@ -276,11 +276,7 @@ class OptionButtonView : public ViewOf<OptionButton> {
 
 // How many of these characters a box of words takes.
 int CountTaken(const QString& text) {
-  int count = 0;
-  for (const char32_t c : text.toStdU32String()) {
-    if (code_page::FromUnicode(c) && c >= 0x20 && c != 0x7F) ++count;
-  }
-  return count;
+  return static_cast<int>(code_page::KeepTypeable(text.toStdU32String()).size());
 }
 
 class TextBoxView : public ViewOf<TextBox> {
@@ -378,8 +374,8 @@ class ListBoxView : public ViewOf<ListBox> {
         box.UserDoubleClick();
       });
     };
-    list().on_key = [this](Key key) { Act([key](ListBox& box) { Press(box, key); }); };
-    list().on_search = [this](int row) { Act([row](ListBox& box) { box.ClickRow(row); }); };
+    list().on_key = [this](Key key) { Act([key](ListBox& box) { box.Press(key); }); };
+    list().on_search = [this](int row) { Act([row](ListBox& box) { box.MoveByKey(row); }); };
     if (dynamic_cast<DirListBox*>(&list_box) != nullptr) {
       list().on_enter = [this] { Act([](ListBox& box) { box.UserDoubleClick(); }); };
     }
@@ -401,13 +397,6 @@ class ListBoxView : public ViewOf<ListBox> {
     } else {
       box.ClickRow(row);
     }
-  }
-
-  static void Press(ListBox& box, Key key) {
-    // The list shows its first row as the one that the keys are at.
-    const bool first = key == Key::Space && box.ListIndex < 0 && box.ListCount() > 0;
-    if (first) box.ListIndex.Put(0);
-    box.Press(key);
   }
 
   ListRows rows_;
@@ -490,7 +479,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
   void Confirm() {
     const QString text = combo().currentText();
     if (combo().findText(text, Qt::MatchFixedString) >= 0) return;
-    Act([&](ComboBox& box) { box.Type(FromQString(text)); });
+    Act([&](ComboBox& box) { box.Type(text.toStdU32String()); });
   }
 
   QStringList rows_;

@@ -6,6 +6,18 @@
 #include "core/just_for_fun.h"
 #include "core/pick_words.h"
 #include "core/title.h"
+#include "lists/add_word.h"
+#include "lists/change_list.h"
+#include "lists/change_list_name.h"
+#include "lists/create_list.h"
+#include "lists/delete_list.h"
+#include "lists/edit_choose_list.h"
+#include "lists/edit_list.h"
+#include "lists/edit_word.h"
+#include "lists/fl_form.h"
+#include "lists/make_new_list.h"
+#include "lists/program_options.h"
+#include "lists/quick_word_option.h"
 #include "program/unbuilt_form.h"
 #include "quiz/quiz_form.h"
 #include "quiz/quiz_options.h"
@@ -65,18 +77,18 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::CrossWordFill, "CrossWordFill", MakeUnbuilt},
     {Screen::OpenWorksheet, "OpenWorksheet", MakeUnbuilt},
     {Screen::AddPic, "AddPic", MakeUnbuilt},
-    {Screen::CreateList, "CreateList", MakeUnbuilt},
-    {Screen::MakeNewList, "MakeNewList", MakeUnbuilt},
-    {Screen::EditChooseList, "EditChooseList", MakeUnbuilt},
-    {Screen::EditList, "EditList", MakeUnbuilt},
-    {Screen::AddWord, "AddWord", MakeUnbuilt},
-    {Screen::EditWord, "EditWord", MakeUnbuilt},
-    {Screen::ChangeListName, "ChangeListName", MakeUnbuilt},
-    {Screen::DeleteList, "DeleteList", MakeUnbuilt},
-    {Screen::FLForm, "FLForm", MakeUnbuilt},
-    {Screen::ProgramOptions, "ProgramOptions", MakeUnbuilt},
-    {Screen::ChangeList, "ChangeList", MakeUnbuilt},
-    {Screen::QuickWordOption, "QuickWordOption", MakeUnbuilt},
+    {Screen::CreateList, "CreateList", Make<CreateList>},
+    {Screen::MakeNewList, "MakeNewList", Make<MakeNewList>},
+    {Screen::EditChooseList, "EditChooseList", Make<EditChooseList>},
+    {Screen::EditList, "EditList", Make<EditList>},
+    {Screen::AddWord, "AddWord", Make<AddWord>},
+    {Screen::EditWord, "EditWord", Make<EditWord>},
+    {Screen::ChangeListName, "ChangeListName", Make<ChangeListName>},
+    {Screen::DeleteList, "DeleteList", Make<DeleteList>},
+    {Screen::FLForm, "FLForm", Make<FLForm>},
+    {Screen::ProgramOptions, "ProgramOptions", Make<ProgramOptions>},
+    {Screen::ChangeList, "ChangeList", Make<ChangeList>},
+    {Screen::QuickWordOption, "QuickWordOption", Make<QuickWordOption>},
 };
 
 }  // namespace

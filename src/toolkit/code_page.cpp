@@ -306,6 +306,15 @@ std::string UnicodeToUtf8(std::u32string_view text) {
   return utf8;
 }
 
+std::string KeepTypeable(std::u32string_view text) {
+  std::string kept;
+  for (const char32_t character : text) {
+    const auto byte = FromUnicode(character);
+    if (byte && character >= 0x20 && character != 0x7F) kept.push_back(*byte);
+  }
+  return kept;
+}
+
 char UpperCase(char byte) { return kFolds.upper[Code(byte)]; }
 char LowerCase(char byte) { return kFolds.lower[Code(byte)]; }
 std::string UpperCase(std::string_view bytes) { return Folded(bytes, kFolds.upper); }

@@ -23,6 +23,10 @@ std::string FromUtf8(std::string_view utf8, char substitute = '?');
 std::u32string Utf8ToUnicode(std::string_view utf8);
 std::string UnicodeToUtf8(std::u32string_view text);
 
+// What a box of words takes of a text that is typed or pasted, a byte for each character that it
+// keeps: line ends, other control characters and what the code page lacks are left out.
+std::string KeepTypeable(std::u32string_view text);
+
 // A letter whose capital the code page lacks stays as it is.
 char UpperCase(char byte);
 char LowerCase(char byte);

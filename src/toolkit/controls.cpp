@@ -18,16 +18,9 @@ void CommandButton::Press(Key key) {
 }
 
 void TextBox::Type(std::u32string_view text) {
-  std::string kept;
-  bool refused = false;
-  for (char32_t character : text) {
-    const auto byte = code_page::FromUnicode(character);
-    const bool fits = byte && character >= 0x20 && character != 0x7F;
-    if (fits) kept.push_back(*byte);
-    refused = refused || !fits;
-  }
-  if (refused) form().runtime().platform().Beep();
-  Text = kept;
+  std::string kept = code_page::KeepTypeable(text);
+  if (kept.size() != text.size()) form().runtime().platform().Beep();
+  Text = std::move(kept);
 }
 
 void TextBox::Press(Key key) {

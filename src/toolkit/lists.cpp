@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "toolkit/code_page.h"
+#include "toolkit/form.h"
+#include "toolkit/platform.h"
+#include "toolkit/runtime.h"
 
 namespace brindlepage {
 
@@ -32,6 +35,10 @@ void ListBox::AddItem(std::string text, int at) {
   Changed();
 }
 
+void ListBox::AddItems(std::vector<std::string> texts) {
+  for (std::string& text : texts) AddItem(std::move(text));
+}
+
 void ListBox::RemoveItem(int row) {
   At(row);
   rows_.erase(rows_.begin() + row);
@@ -58,6 +65,13 @@ const std::string& ListBox::List(int row) const {
 void ListBox::List(int row, std::string text) {
   At(row).text = std::move(text);
   Changed();
+}
+
+std::vector<std::string> ListBox::Rows() const {
+  std::vector<std::string> texts;
+  texts.reserve(rows_.size());
+  for (const Row& row : rows_) texts.push_back(row.text);
+  return texts;
 }
 
 bool ListBox::Selected(int row) const {
@@ -121,13 +135,22 @@ void ListBox::Press(Key key) {
       row = ListCount() - 1;
       break;
     case Key::Space:
-      if (style_ != ListStyle::CheckBoxes) return;
-      ClickCheck(row);
-      KeyUp();
-      return;
+      // With no row selected the keys are at the first.
+      if (style_ == ListStyle::CheckBoxes) {
+        ClickCheck(std::max(row, 0));
+        KeyUp();
+        return;
+      }
+      if (row >= 0) return;
+      row = 0;
+      break;
     default:
       return Control::Press(key);
   }
+  MoveByKey(row);
+}
+
+void ListBox::MoveByKey(int row) {
   if (ListCount() == 0) return;
   ListIndex.Put(std::clamp(row, 0, ListCount() - 1));
   if (KeyUp) {
@@ -191,8 +214,10 @@ void ComboBox::PickRow(int row) {
   Click();
 }
 
-void ComboBox::Type(std::string text) {
-  Text = std::move(text);
+void ComboBox::Type(std::u32string_view text) {
+  std::string kept = code_page::KeepTypeable(text);
+  if (kept.size() != text.size()) form().runtime().platform().Beep();
+  Text = std::move(kept);
   Click();
 }
 

@@ -27,12 +27,14 @@ class ListBox : public Control {
   void AddItem(std::string text);
   // Puts the row in front of row `at`, sorted or not.
   void AddItem(std::string text, int at);
+  void AddItems(std::vector<std::string> texts);
   void RemoveItem(int row);
   void Clear();
 
   int ListCount() const { return static_cast<int>(rows_.size()); }
   const std::string& List(int row) const;
   void List(int row, std::string text);
+  std::vector<std::string> Rows() const;
   // The selected row's text, or "".
   const std::string& Text() const { return List(ListIndex); }
 
@@ -48,7 +50,11 @@ class ListBox : public Control {
   // Turns the mark of the row; the row is selected as well.
   void ClickCheck(int row);
   void DoubleClickRow(int row);
+  // The arrows, Home, End and the page keys move the selection; Space turns the selected row's
+  // mark, or selects. With no row selected Space acts on the first.
   void Press(Key key) override;
+  // A key led the selection to this row, or to the end that is nearest to it.
+  void MoveByKey(int row);
 
  protected:
   // What a list of files or folders does when it moved.
@@ -85,9 +91,10 @@ class ComboBox : public Control {
 
   // Picks a row; Click is raised.
   void PickRow(int row);
-  // Types a text and confirms it. A text of the list is picked; any other raises Click as well,
-  // so that a size or font that the list lacks can be asked for.
-  void Type(std::string text);
+  // Types a text and confirms it; what no box of words takes is refused with a beep. A text of the
+  // list is picked; any other raises Click as well, so that a size or font that the list lacks can
+  // be asked for.
+  void Type(std::u32string_view text);
   void Press(Key key) override;
 
  private:

@@ -56,9 +56,9 @@ void SelectRow(ListBox& list, const Token& row) {
   if (auto* drives = dynamic_cast<DriveListBox*>(&list)) drives->UserClick();
 }
 
-void SelectRow(ComboBox& combo, const Token& row, WalkPlatform& platform) {
+void SelectRow(ComboBox& combo, const Token& row) {
   const auto number = IsNumber(row) ? ReadInt(row) : RowOfText(combo, row.text);
-  if (!number) return combo.Type(platform.Typed(row.text));
+  if (!number) return combo.Type(code_page::Utf8ToUnicode(row.text));
   if (*number >= combo.ListCount()) throw ScriptError("no such row: " + row.text);
   combo.PickRow(*number);
 }
@@ -229,9 +229,9 @@ void Walk::Select(const Tokens& arguments) {
   const Target target = ReadControl(arguments[0]);
   const Token& row = arguments[1];
   Require<ListBox, ComboBox>(target);
-  Act(target, [this, &row](Control& control) {
+  Act(target, [&row](Control& control) {
     if (auto* list = dynamic_cast<ListBox*>(&control)) SelectRow(*list, row);
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) SelectRow(*combo, row, platform_);
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) SelectRow(*combo, row);
   });
 }
 
@@ -247,11 +247,11 @@ void Walk::Mark(const Tokens& arguments) {
 
 void Walk::Type(const Tokens& arguments) {
   const Target target = ReadControl(arguments[0]);
-  const std::string& text = arguments[1].text;
+  const std::u32string text = code_page::Utf8ToUnicode(arguments[1].text);
   Require<TextBox, ComboBox>(target);
-  Act(target, [this, &text](Control& control) {
-    if (auto* box = dynamic_cast<TextBox*>(&control)) box->Type(code_page::Utf8ToUnicode(text));
-    if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->Type(platform_.Typed(text));
+  Act(target, [&text](Control& control) {
+    if (auto* box = dynamic_cast<TextBox*>(&control)) box->Type(text);
+    if (auto* combo = dynamic_cast<ComboBox*>(&control)) combo->Type(text);
   });
 }
 

@@ -45,15 +45,9 @@ void WalkPlatform::QueueAnswer(Token answer) {
 }
 
 std::string WalkPlatform::Typed(std::string_view utf8) {
-  std::string kept;
-  bool refused = false;
-  for (const char32_t character : code_page::Utf8ToUnicode(utf8)) {
-    const auto byte = code_page::FromUnicode(character);
-    const bool fits = byte && character >= 0x20 && character != 0x7F;
-    if (fits) kept.push_back(*byte);
-    refused = refused || !fits;
-  }
-  if (refused) Beep();
+  const std::u32string text = code_page::Utf8ToUnicode(utf8);
+  std::string kept = code_page::KeepTypeable(text);
+  if (kept.size() != text.size()) Beep();
   return kept;
 }
 

@@ -22,8 +22,6 @@ class WalkPlatform : public Platform {
   // A text, or one of yes, no, ok, cancel, all and selection; anything else is a ScriptError.
   void QueueAnswer(Token answer);
   void SetClock(Milliseconds now) { now_ = now; }
-  // What can be typed into a box of words, in Windows-1252; the rest is refused with a beep.
-  std::string Typed(std::string_view utf8);
 
   // A message with OK alone takes an `ok` if that is next. Any other box takes the next answer,
   // and throws ScriptError if it does not fit. With none queued a box gets its first button, an
@@ -51,6 +49,8 @@ class WalkPlatform : public Platform {
   void ControlChanged(Control&) override {}
 
  private:
+  // What can be typed into a box of words, in Windows-1252; the rest is refused with a beep.
+  std::string Typed(std::string_view utf8);
   // What a button or a choice of a box is called in a script.
   template <class Choice>
   struct Option {
