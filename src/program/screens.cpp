@@ -29,6 +29,8 @@
 #include "scramble_code/code_form.h"
 #include "scramble_code/scramble.h"
 #include "scramble_code/scramble_option1.h"
+#include "wordsearch/puzzle_size.h"
+#include "wordsearch/word_search_form.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -63,11 +65,11 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::QuizOptions, "QuizOptions", Make<QuizOptions>},
     {Screen::QuizOptions3, "QuizOptions3", Make<QuizOptions3>},
     {Screen::QuizOptions5, "QuizOptions5", Make<QuizOptions5>},
-    {Screen::PuzzleSize, "PuzzleSize", MakeUnbuilt},
+    {Screen::PuzzleSize, "PuzzleSize", Make<PuzzleSize>},
     {Screen::QuizForm, "QuizForm", Make<QuizForm>},
     {Screen::Scramble, "Scramble", Make<Scramble>},
     {Screen::CodeForm, "CodeForm", Make<CodeForm>},
-    {Screen::WordSearchForm, "WordSearchForm", MakeUnbuilt},
+    {Screen::WordSearchForm, "WordSearchForm", Make<WordSearchForm>},
     {Screen::RiddleForm, "RiddleForm", Make<RiddleForm>},
     {Screen::CrosswordWorksheet, "CrosswordWorksheet", MakeUnbuilt},
     {Screen::StudyGuideForm, "StudyGuideForm", Make<StudyGuideForm>},
