@@ -6,6 +6,14 @@
 #include "core/just_for_fun.h"
 #include "core/pick_words.h"
 #include "core/title.h"
+#include "crossword/cross_option1.h"
+#include "crossword/cross_option2.h"
+#include "crossword/cross_print.h"
+#include "crossword/cross_word.h"
+#include "crossword/cross_word_fill.h"
+#include "crossword/crossword_worksheet.h"
+#include "crossword/new_cross1.h"
+#include "crossword/please_wait.h"
 #include "lists/add_word.h"
 #include "lists/change_list.h"
 #include "lists/change_list_name.h"
@@ -71,18 +79,18 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::CodeForm, "CodeForm", Make<CodeForm>},
     {Screen::WordSearchForm, "WordSearchForm", Make<WordSearchForm>},
     {Screen::RiddleForm, "RiddleForm", Make<RiddleForm>},
-    {Screen::CrosswordWorksheet, "CrosswordWorksheet", MakeUnbuilt},
+    {Screen::CrosswordWorksheet, "CrosswordWorksheet", Make<CrosswordWorksheet>},
     {Screen::StudyGuideForm, "StudyGuideForm", Make<StudyGuideForm>},
     {Screen::ScrambleOption1, "ScrambleOption1", Make<ScrambleOption1>},
     {Screen::ChooseRiddle, "ChooseRiddle", Make<ChooseRiddle>},
     {Screen::RiddleOption1, "RiddleOption1", Make<RiddleOption1>},
-    {Screen::CrossOption1, "CrossOption1", MakeUnbuilt},
-    {Screen::CrossOption2, "CrossOption2", MakeUnbuilt},
-    {Screen::PleaseWait, "PleaseWait", MakeUnbuilt},
-    {Screen::CrossPrint, "CrossPrint", MakeUnbuilt},
-    {Screen::CrossWord, "CrossWord", MakeUnbuilt},
-    {Screen::NewCross1, "NewCross1", MakeUnbuilt},
-    {Screen::CrossWordFill, "CrossWordFill", MakeUnbuilt},
+    {Screen::CrossOption1, "CrossOption1", Make<CrossOption1>},
+    {Screen::CrossOption2, "CrossOption2", Make<CrossOption2>},
+    {Screen::PleaseWait, "PleaseWait", Make<PleaseWait>},
+    {Screen::CrossPrint, "CrossPrint", Make<CrossPrint>},
+    {Screen::CrossWord, "CrossWord", Make<CrossWord>},
+    {Screen::NewCross1, "NewCross1", Make<NewCross1>},
+    {Screen::CrossWordFill, "CrossWordFill", Make<CrossWordFill>},
     {Screen::OpenWorksheet, "OpenWorksheet", MakeUnbuilt},
     {Screen::AddPic, "AddPic", MakeUnbuilt},
     {Screen::CreateList, "CreateList", Make<CreateList>},
