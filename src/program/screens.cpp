@@ -11,6 +11,8 @@
 #include "quiz/quiz_options.h"
 #include "quiz/quiz_options3.h"
 #include "quiz/quiz_options5.h"
+#include "worksheet/add_pic.h"
+#include "worksheet/open_worksheet.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -63,8 +65,8 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::CrossWord, "CrossWord", MakeUnbuilt},
     {Screen::NewCross1, "NewCross1", MakeUnbuilt},
     {Screen::CrossWordFill, "CrossWordFill", MakeUnbuilt},
-    {Screen::OpenWorksheet, "OpenWorksheet", MakeUnbuilt},
-    {Screen::AddPic, "AddPic", MakeUnbuilt},
+    {Screen::OpenWorksheet, "OpenWorksheet", Make<OpenWorksheet>},
+    {Screen::AddPic, "AddPic", Make<AddPic>},
     {Screen::CreateList, "CreateList", MakeUnbuilt},
     {Screen::MakeNewList, "MakeNewList", MakeUnbuilt},
     {Screen::EditChooseList, "EditChooseList", MakeUnbuilt},
