@@ -40,6 +40,10 @@ for limit in $(said draw-limit); do set -- "$@" --draw-limit "$limit"; done
 (cd "$beside" && "$walk" "$@" "$story") >"$temp/printed" 2>"$temp/errors"
 status=$?
 
+# The program folder's own path stands as FOLDER in what is printed, be it as Windows writes it.
+as_windows=Z:$(printf '%s' "$folder" | sed 's|/|\\\\\\\\|g')
+sed -i -e "s|$folder|FOLDER|g" -e "s|$as_windows|FOLDER|g" "$temp/printed"
+
 failed=0
 wanted=$(said status)
 if [ "$status" -ne "${wanted:-0}" ]; then

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <deque>
 #include <filesystem>
+#include <functional>
+#include <optional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -25,6 +28,11 @@ class NotingPlatform : public Platform {
   Size screen{1024 * 15, 768 * 15};
   Milliseconds clock = 0;
   std::function<void()> while_box_is_open;
+  std::deque<std::optional<std::string>> texts;  // input boxes'; with none left, the default
+  std::deque<std::optional<PrintChoice>> print_choices;  // with none left, cancelled
+  std::function<void()> on_print;
+  std::function<void()> on_start_program;
+  std::function<bool(const Picture&)> can_show;
 
   BoxAnswer MessageBox(std::string_view text, std::string_view title, BoxButtons buttons) override {
     log.push_back(std::string(title) + "|" + std::string(text));
@@ -35,19 +43,39 @@ class NotingPlatform : public Platform {
     answers.pop_front();
     return answer;
   }
-  std::optional<std::string> InputBox(std::string_view, std::string_view,
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                       std::string_view text) override {
-    return std::string(text);
+    log.push_back(std::string(title) + "|" + std::string(prompt) + "|" + std::string(text));
+    if (texts.empty()) return std::string(text);
+    auto answer = std::move(texts.front());
+    texts.pop_front();
+    return answer;
   }
-  std::optional<PrintChoice> PrintDialog(unsigned) override { return std::nullopt; }
-  void Print(Control&, int, int) override {}
+  std::optional<PrintChoice> PrintDialog(unsigned flags) override {
+    char text[32];
+    std::snprintf(text, sizeof text, "print-dialog 0x%x", flags);
+    log.push_back(text);
+    if (print_choices.empty()) return std::nullopt;
+    const auto choice = print_choices.front();
+    print_choices.pop_front();
+    return choice;
+  }
+  void Print(Control& box, int start, int length) override {
+    log.push_back("printed " + box.Name() + " " + std::to_string(start) + " " +
+                  std::to_string(length));
+    if (on_print) on_print();
+  }
   std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
                                         std::string_view start) override {
     log.push_back(std::string(title) + "|" + std::string(filter) + "|" + std::string(start));
     if (on_open_dialog) return on_open_dialog();
     return std::nullopt;
   }
-  void StartProgram(std::string_view) override {}
+  void StartProgram(std::string_view command_line) override {
+    log.push_back("run " + std::string(command_line));
+    if (on_start_program) on_start_program();
+  }
+  bool CanShow(const Picture& picture) override { return !can_show || can_show(picture); }
   void Beep() override { log.push_back("beep"); }
   Size ScreenSize() const override { return screen; }
   std::vector<std::string> ScreenFonts() const override {

@@ -39,6 +39,8 @@
 #include "scramble_code/scramble_option1.h"
 #include "wordsearch/puzzle_size.h"
 #include "wordsearch/word_search_form.h"
+#include "worksheet/add_pic.h"
+#include "worksheet/open_worksheet.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -91,8 +93,8 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::CrossWord, "CrossWord", Make<CrossWord>},
     {Screen::NewCross1, "NewCross1", Make<NewCross1>},
     {Screen::CrossWordFill, "CrossWordFill", Make<CrossWordFill>},
-    {Screen::OpenWorksheet, "OpenWorksheet", MakeUnbuilt},
-    {Screen::AddPic, "AddPic", MakeUnbuilt},
+    {Screen::OpenWorksheet, "OpenWorksheet", Make<OpenWorksheet>},
+    {Screen::AddPic, "AddPic", Make<AddPic>},
     {Screen::CreateList, "CreateList", Make<CreateList>},
     {Screen::MakeNewList, "MakeNewList", Make<MakeNewList>},
     {Screen::EditChooseList, "EditChooseList", Make<EditChooseList>},

@@ -13,6 +13,7 @@ class QuizForm : public WorksheetForm {
  private:
   void Load() override;
   void OpenSavedWorksheet();
+  bool OffersKeyFile() const override { return shared.ActivityKind != kSavedWorksheet; }
 };
 
 }  // namespace brindlepage

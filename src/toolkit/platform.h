@@ -15,6 +15,7 @@ namespace brindlepage {
 
 class Control;
 class Form;
+struct Picture;
 
 // At 96 dots to the inch.
 inline constexpr int kTwipsPerPixel = 15;
@@ -57,6 +58,8 @@ class Platform {
   // Starts a program and does not wait for it. Throws RunTimeError 53 if it can't be started.
   virtual void StartProgram(std::string_view command_line) = 0;
   virtual void Beep() = 0;
+  // Whether the picture can be shown. Without a display every one that begins like a picture can.
+  virtual bool CanShow(const Picture&) { return true; }
 
   virtual Size ScreenSize() const = 0;  // twips
   virtual std::vector<std::string> ScreenFonts() const = 0;

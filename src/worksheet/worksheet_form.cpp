@@ -49,8 +49,6 @@ void WorksheetForm::AddToolbarButtons() {
   Toolbar1.Add("QuickWord", "qw", "Open in Word Processor", "word-processor").Enabled = false;
   if (design_.has_key_button) Toolbar1.Add("Key", "", design_.key_tool_tip, "key");
   Toolbar1.Add("Quit", "quit", "Exit Brindlepage", "quit");
-  // Output is still to be built.
-  for (int number : {kPrint, kClipart, kSave}) Toolbar1.Button(number).Enabled = false;
   Toolbar1.ButtonClick = [this](ToolbarButton& button) { ToolbarClick(button.Caption); };
 }
 
@@ -182,7 +180,11 @@ void WorksheetForm::Resize() {
 void WorksheetForm::ToolbarClick(const std::string& caption) {
   if (caption == "Key") return ShowKeyView();
   if (caption == "Worksheet") return ShowWorksheetView();
+  if (caption == "Save") return SaveWorksheet();
+  if (caption == "Print") return PrintWorksheet();
   if (caption == "Quit") runtime().End();
+  if (caption == "QuickWord") return OpenInWordProcessor();
+  if (caption == "Clipart") return OpenClipart();
 }
 
 }  // namespace brindlepage

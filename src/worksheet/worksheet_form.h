@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/program.h"
 #include "toolkit/lists.h"
+#include "toolkit/platform.h"
 #include "worksheet/compose.h"
 #include "worksheet/rich_text_box.h"
 
@@ -25,7 +27,7 @@ struct WorksheetDesign {
   const char* key_tool_tip = "Switch Views Beween Worksheet and Answer Key";
 
   // Output: the form's name for the screens that come back to it, the words around the file's name
-  // in the message after a save.
+  // in the message after a save. A worksheet without a key view has shorter ways to save and print.
   const char* tag = "";
   const char* saved_start = "";
   const char* saved_end = "";
@@ -80,6 +82,9 @@ class WorksheetForm : public ProgramForm {
   // The way back to the menu. The riddle sheet has one of its own.
   virtual void BackToMenu() { StepTo(Screen::Title); }
 
+  // Whether a save asks for the key's file. A saved worksheet that was opened has no key.
+  virtual bool OffersKeyFile() const { return true; }
+
  private:
   void AddToolbarButtons();
   void AddMenus();
@@ -87,6 +92,17 @@ class WorksheetForm : public ProgramForm {
   Arrangement FontBar();
 
   void ToolbarClick(const std::string& caption);
+
+  // Output, in worksheet_output.cpp.
+  void SaveWorksheet();
+  bool KeyFileIsWanted();
+  void TellSaved();
+  void PrintWorksheet();
+  bool PrintKey(unsigned flags);
+  void OpenInWordProcessor();
+  void OpenClipart();
+  std::string WorksheetPath() const;
+  std::string KeyPath() const;
 
   void FillFontBar();
   void SyncFontBar();
