@@ -1548,5 +1548,59 @@ TEST(RichText, RandomOperationsGiveWhatASlowAndObviousDocumentGives) {
   }
 }
 
+// --- Loading
+
+TEST(RichText, LoadingReplacesTheDocumentInOneReport) {
+  struct Reports : RichTextObserver {
+    std::string told;
+    void Replaced(int position, int removed, int inserted) override {
+      told += "replaced " + std::to_string(position) + ' ' + std::to_string(removed) + ' ' +
+              std::to_string(inserted) + ';';
+    }
+    void Reformatted(int, int) override { told += "reformatted;"; }
+    void ParagraphsAligned(int, int) override { told += "aligned;"; }
+    void CaretMoved() override { told += "moved;"; }
+  };
+  Sheet sheet;
+  sheet.SelText("before\n");
+  Reports reports;
+  sheet.Observe(&reports);
+  sheet.Load({.text = U"lava\nash",
+              .formats = {Italic(), Bold()},
+              .spans = {{2, 1}, {6, 0}},
+              .alignments = {kRight, kCentre}});
+  sheet.StopObserving(&reports);
+  EXPECT_EQ(reports.told, "replaced 0 7 8;moved;");
+  EXPECT_EQ(Plain(sheet), "lava\nash");
+  EXPECT_EQ(Alignments(sheet), "rc");
+  EXPECT_EQ(Bolds(sheet), "bb......");
+  EXPECT_EQ(sheet.TextLength(), 9);
+  EXPECT_EQ(sheet.SelStart(), 0);
+  EXPECT_EQ(sheet.SelBold(), true);
+}
+
+TEST(RichText, LoadedTextIsCleanedAndMissingAlignmentsAreLeft) {
+  Sheet sheet;
+  sheet.SelAlignment(kRight);
+  sheet.Load({.text = U"a\r\nb\uFFFC\uFFFC\n",
+              .formats = {Design(), With(Design(), Picture())},
+              .spans = {{5, 0}, {1, 1}, {1, 0}},
+              .alignments = {kCentre}});
+  EXPECT_EQ(sheet.PlainText(), U"a\nb\uFFFD\uFFFC\n");
+  EXPECT_EQ(Alignments(sheet), "cll");
+  EXPECT_TRUE(sheet.FormatAt(4).picture);
+  EXPECT_FALSE(sheet.FormatAt(5).picture);
+}
+
+TEST(RichText, LoadingNothingLeavesAnEmptyDocument) {
+  Sheet sheet;
+  sheet.SelBold(true);
+  sheet.SelText("before");
+  sheet.Load({.text = U"", .formats = {}, .spans = {}, .alignments = {kCentre}});
+  EXPECT_EQ(sheet.Length(), 0);
+  EXPECT_EQ(sheet.SelAlignment(), kCentre);
+  EXPECT_EQ(sheet.CaretFormat(), sheet.DesignFormat());
+}
+
 }  // namespace
 }  // namespace brindlepage

@@ -294,6 +294,33 @@ void RichText::Clear() {
   SpliceAll(Alignment::Left);
 }
 
+void RichText::Load(const RichContent& content) {
+  std::vector<std::uint32_t> text_ids, picture_ids;
+  for (const CharFormat& format : content.formats) {
+    text_ids.push_back(InternWithoutPicture(format));
+    picture_ids.push_back(Intern(format));
+  }
+
+  const Stretch before = Selection();
+  const int removed = Length();
+  cells_.Remove(0, removed);
+  line_ends_ = 0;
+  std::u32string_view rest = content.text;
+  for (const RichContent::Span& span : content.spans) {
+    const CharFormat& format = content.formats[span.format];
+    Clean(rest.substr(0, span.length), format.picture != nullptr, incoming_);
+    Splice({Length(), 0}, text_ids[span.format], picture_ids[span.format]);
+    rest.remove_prefix(span.length);
+  }
+  AlignAll(content.alignments);
+  caret_ = 0;
+  selected_ = 0;
+  caret_format_ = FormatAtCaret();
+
+  Report(&RichTextObserver::Replaced, 0, removed, Length());
+  if (before.position > 0 || before.count > 0) Report(&RichTextObserver::CaretMoved);
+}
+
 // --- Observers
 
 void RichText::Observe(RichTextObserver* observer) { observers_.push_back(observer); }
@@ -442,6 +469,17 @@ void RichText::SpliceAll(Alignment alignment) {
   caret_format_ = design_format_;
   Report(&RichTextObserver::Replaced, 0, removed, inserted);
   if (before.position > 0 || before.count > 0) Report(&RichTextObserver::CaretMoved);
+}
+
+void RichText::AlignAll(const std::vector<Alignment>& alignments) {
+  auto next = alignments.begin();
+  const auto take = [&] { return next == alignments.end() ? Alignment::Left : *next++; };
+  first_alignment_ = take();
+  for (int i = 0; i < Length(); ++i) {
+    if (cells_[i].character == kLineEnd) {
+      cells_[i].alignment = static_cast<std::uint32_t>(take()) & 3;
+    }
+  }
 }
 
 void RichText::Select(int position, int length) {

@@ -36,6 +36,19 @@ struct CharFormat {
   bool operator==(const CharFormat&) const = default;
 };
 
+// A whole document as a file tells it.
+struct RichContent {
+  struct Span {
+    std::size_t length;  // characters
+    std::size_t format;  // index into `formats`
+  };
+
+  std::u32string text;  // a line end as one '\n', a picture as one U+FFFC
+  std::vector<CharFormat> formats;
+  std::vector<Span> spans;            // one behind the other over the whole text
+  std::vector<Alignment> alignments;  // a paragraph each, the last one's included
+};
+
 // Follows a document. Every report comes after the change, when document, caret and selection
 // are as they will stay. An observer may read the document, but not change it or stop observing
 // while it is told. Positions count characters, a line end being one.
@@ -182,6 +195,10 @@ class RichText {
   // An empty document, aligned left, the caret format the design font.
   void Clear();
 
+  // Replaces the document, in one change. The caret goes to 0 and takes the format there. Every
+  // span comes in as if it were inserted alone; paragraphs without an alignment are aligned left.
+  void Load(const RichContent& content);
+
   // Observers are told in the order in which they came.
   void Observe(RichTextObserver* observer);
   void StopObserving(RichTextObserver* observer);
@@ -222,6 +239,7 @@ class RichText {
   int Splice(const Stretch& removed, std::uint32_t text_format, std::uint32_t picture_format);
   void SpliceSelection(std::uint32_t picture_format);
   void SpliceAll(Alignment alignment);
+  void AlignAll(const std::vector<Alignment>& alignments);
   void Select(int position, int length);
 
   // Whether a format changed; `change` alters a CharFormat in place.

@@ -1,21 +1,354 @@
 #include "worksheet/rtf_writer.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
 #include "toolkit/code_page.h"
 #include "worksheet/rich_text.h"
+#include "worksheet/rtf_fonts.h"
+#include "worksheet/rtf_pictures.h"
+#include "worksheet/rtf_tables.h"
 
 namespace brindlepage {
 
-std::string WriteRtf(const RichText& document) {
-  std::string text = "{\\rtf1\\ansi ";
-  for (char byte : code_page::FromUnicode(document.PlainText())) {
-    if (byte == '\n') {
-      text += "\\par\n";
+namespace {
+
+// Letter, in twips, with a text column of seven and a half inches.
+constexpr char kPage[] = "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\n";
+constexpr char kUsualFont[] = "Courier New";  // of an empty document
+constexpr char32_t kPicture = 0xFFFC;
+
+constexpr std::string_view kDigits = "0123456789abcdef";
+
+// What stands in a file as it is.
+constexpr std::array<bool, 128> kPlain = [] {
+  std::array<bool, 128> plain{};
+  for (std::size_t code = 0x20; code < 0x7F; ++code) plain[code] = true;
+  plain['\\'] = plain['{'] = plain['}'] = false;
+  return plain;
+}();
+bool IsPlain(char32_t c) { return c < kPlain.size() && kPlain[c]; }
+
+// Keys, numbered in the order of their first use.
+template <class Key>
+class Numbered {
+ public:
+  int Of(const Key& key) {
+    const auto [entry, is_new] = numbers_.try_emplace(key, static_cast<int>(keys_.size()));
+    if (is_new) keys_.push_back(key);
+    return entry->second;
+  }
+  const std::vector<Key>& Keys() const { return keys_; }
+
+ private:
+  std::unordered_map<Key, int> numbers_;
+  std::vector<Key> keys_;
+};
+
+class Writer {
+ public:
+  explicit Writer(const RichText& document)
+      : document_(document), text_(document.PlainText()), paragraphs_(document.Paragraphs()) {}
+
+  std::string Write();
+
+ private:
+  struct Span {
+    std::size_t start;
+    std::size_t end;
+    std::uint32_t format;
+  };
+
+  void FindSpans();
+  void NumberLooks();
+  void ReserveRoom();
+  void WriteTables();
+  void WriteFont(std::size_t number, const std::string& name);
+  void WriteLooks(const RtfLooks& looks);
+  void WriteSpan(const Span& span);
+  void WriteAlignment();
+  void EndParagraph();
+  void WritePlain(std::u32string_view text);
+  void WriteOdd(char32_t character);
+  void WritePicture(const RichPicture& picture);
+  void WriteHex(std::string_view bytes);
+
+  void Add(std::string_view text) { rtf_ += text; }
+  void Byte(unsigned char byte) { rtf_ += {'\\', '\'', kDigits[byte >> 4], kDigits[byte & 15]}; }
+  // A blank ends a control word in front of a text.
+  void Word(std::string_view name) {
+    rtf_ += name;
+    behind_word_ = true;
+  }
+  void Word(std::string_view name, int number) {
+    Word(name);
+    rtf_ += std::to_string(number);
+  }
+  void Flag(std::string_view name, bool old, bool now) {
+    if (old == now) return;
+    Word(name);
+    if (!now) rtf_ += '0';
+  }
+  void BeginText() {
+    if (behind_word_) rtf_ += ' ';
+    behind_word_ = false;
+  }
+
+  const RichText& document_;
+  const std::u32string text_;
+  const std::vector<RichText::Paragraph> paragraphs_;
+  std::vector<Span> spans_;
+
+  Numbered<std::string> fonts_;
+  Numbered<std::uint32_t> colors_;
+  std::vector<std::optional<RtfLooks>> numbered_;  // by format id
+
+  std::string rtf_;
+  RtfLooks looks_{.font = -1, .size = 0};  // none that a text can have
+  std::size_t paragraph_ = 0;
+  Alignment alignment_ = Alignment::Left;
+  bool behind_word_ = false;
+};
+
+std::string Writer::Write() {
+  FindSpans();
+  NumberLooks();
+  ReserveRoom();
+  WriteTables();
+  Add(kPage);
+  Word("\\pard\\plain");
+  WriteAlignment();
+  for (const Span& span : spans_) WriteSpan(span);
+  EndParagraph();
+  Add("}");
+  return std::move(rtf_);
+}
+
+// --- What the document holds
+
+void Writer::FindSpans() {
+  for (std::size_t i = 0; i < text_.size(); ++i) {
+    const std::uint32_t format = document_.FormatIdAt(static_cast<int>(i));
+    if (spans_.empty() || spans_.back().format != format) spans_.push_back({i, i, format});
+    spans_.back().end = i + 1;
+  }
+}
+
+void Writer::NumberLooks() {
+  colors_.Of(0);  // the automatic colour
+  for (const Span& span : spans_) {
+    if (numbered_.size() <= span.format) numbered_.resize(span.format + 1);
+    std::optional<RtfLooks>& looks = numbered_[span.format];
+    if (looks) continue;
+    const CharFormat& format = document_.Format(span.format);
+    looks = {.font = fonts_.Of(format.font.substr(0, RtfFonts::kLongestName)),
+             .size = std::clamp(format.size, kRtfSmallest, kRtfBiggest),
+             .color = colors_.Of(format.color & 0xFFFFFF),
+             .bold = format.bold,
+             .italic = format.italic,
+             .underline = format.underline};
+  }
+  if (spans_.empty()) fonts_.Of(kUsualFont);
+}
+
+void Writer::ReserveRoom() {
+  std::size_t room =
+      4096 + text_.size() + text_.size() / 8 + 16 * spans_.size() + 8 * paragraphs_.size();
+  for (const Span& span : spans_) {
+    const auto& picture = document_.Format(span.format).picture;
+    if (picture) room += (span.end - span.start) * (256 + picture->bytes.size() * 33 / 16);
+  }
+  rtf_.reserve(room);
+}
+
+// --- Head
+
+void Writer::WriteTables() {
+  Add("{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n{\\fonttbl");
+  for (std::size_t i = 0; i < fonts_.Keys().size(); ++i) WriteFont(i, fonts_.Keys()[i]);
+  Add("}\n{\\colortbl;");
+  for (std::size_t i = 1; i < colors_.Keys().size(); ++i) {
+    const std::uint32_t color = colors_.Keys()[i];
+    Word("\\red", color & 0xFF);
+    Word("\\green", color >> 8 & 0xFF);
+    Word("\\blue", color >> 16 & 0xFF);
+    Add(";");
+  }
+  Add("}\n");
+}
+
+void Writer::WriteFont(std::size_t number, const std::string& name) {
+  const RtfFontKind kind = RtfKindOfFont(name);
+  Word("{\\f", static_cast<int>(number));
+  Add(kind.words);
+  Add("\\fcharset0 ");
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(name[i]);
+    // A blank in front and a semicolon would not be taken for a part of the name.
+    const bool ends = byte == ';' || (i == 0 && byte == ' ');
+    if (IsPlain(byte) && !ends) {
+      rtf_ += name[i];
+    } else {
+      Byte(byte);
+    }
+  }
+  if (!kind.alternative.empty()) {
+    Add("{\\*\\falt ");
+    Add(kind.alternative);
+    Add("}");
+  }
+  Add(";}");
+}
+
+// --- Text
+
+void Writer::WriteLooks(const RtfLooks& looks) {
+  if (looks.font != looks_.font) Word("\\f", looks.font);
+  if (looks.size != looks_.size) {
+    Word("\\fs", (looks.size + kRtfHalfPoint / 2) / kRtfHalfPoint);
+    if (looks.size % kRtfHalfPoint != 0) Word("\\fstwips", looks.size);
+  }
+  if (looks.color != looks_.color) Word("\\cf", looks.color);
+  Flag("\\b", looks_.bold, looks.bold);
+  Flag("\\i", looks_.italic, looks.italic);
+  Flag("\\ul", looks_.underline, looks.underline);
+  looks_ = looks;
+}
+
+void Writer::WriteSpan(const Span& span) {
+  WriteLooks(*numbered_[span.format]);
+  const RichPicture* const picture = document_.Format(span.format).picture.get();
+  for (std::size_t i = span.start; i < span.end;) {
+    std::size_t plain_end = i;
+    while (plain_end < span.end && IsPlain(text_[plain_end])) ++plain_end;
+    if (plain_end > i) {
+      WritePlain(std::u32string_view(text_).substr(i, plain_end - i));
+      i = plain_end;
       continue;
     }
-    if (byte == '\\' || byte == '{' || byte == '}') text += '\\';
-    text += byte;
+    const char32_t odd = text_[i++];
+    if (odd == U'\n') {
+      EndParagraph();
+      ++paragraph_;
+      WriteAlignment();
+    } else if (odd == kPicture && picture) {
+      WritePicture(*picture);
+    } else {
+      WriteOdd(odd);
+    }
   }
-  return text + "}";
 }
+
+void Writer::WriteAlignment() {
+  const Alignment alignment = paragraphs_[paragraph_].alignment;
+  if (alignment == alignment_) return;
+  alignment_ = alignment;
+  Word(alignment == Alignment::Left ? "\\ql" : alignment == Alignment::Right ? "\\qr" : "\\qc");
+}
+
+void Writer::EndParagraph() {
+  Add("\\par\n");
+  behind_word_ = false;
+}
+
+void Writer::WritePlain(std::u32string_view text) {
+  BeginText();
+  const std::size_t start = rtf_.size();
+  rtf_.resize(start + text.size());
+  char* to = rtf_.data() + start;
+  for (const char32_t character : text) *to++ = static_cast<char>(character);
+}
+
+void Writer::WriteOdd(char32_t character) {
+  const auto unicode = [this](char32_t unit) {
+    const int number = static_cast<int>(unit);
+    Word("\\u", number < 0x8000 ? number : number - 0x10000);
+    Add("?");
+    behind_word_ = false;
+  };
+  const auto symbol = [this](std::string_view name) {
+    Add(name);
+    behind_word_ = false;
+  };
+  switch (character) {
+    case U'\t':
+      return Word("\\tab");
+    case U'\\':
+      return symbol("\\\\");
+    case U'{':
+      return symbol("\\{");
+    case U'}':
+      return symbol("\\}");
+    case 0xA0:
+      return symbol("\\~");
+    case 0xAD:
+      return symbol("\\-");
+    case 0x2011:
+      return symbol("\\_");
+    default:
+      break;
+  }
+  const auto byte = code_page::FromUnicode(character);
+  if (character >= 0xA0 && byte) {
+    Byte(static_cast<unsigned char>(*byte));
+    behind_word_ = false;
+  } else if (character < 0x10000) {
+    unicode(character);
+  } else {
+    unicode(0xD800 + ((character - 0x10000) >> 10));
+    unicode(0xDC00 + (character & 0x3FF));
+  }
+}
+
+// --- Pictures
+
+void Writer::WritePicture(const RichPicture& picture) {
+  const RtfPictureParts parts = PictureToRtf(picture);
+  Add("{\\pict");
+  for (const RtfPictureKind& kind : kRtfPictureKinds) {
+    if (kind.format != picture.format) continue;
+    Add("\\");
+    Add(kind.word);
+  }
+  Word("\\picw", parts.file_width);
+  Word("\\pich", parts.file_height);
+  Word("\\picwgoal", parts.width);
+  Word("\\pichgoal", parts.height);
+  if (!parts.header_follows) {
+    Add("{\\*\\fileheader ");
+    WriteHex(parts.header);
+    Add("}");
+  }
+  Add("\n");
+  WriteHex(parts.data);
+  Add("}");
+  behind_word_ = false;
+}
+
+void Writer::WriteHex(std::string_view bytes) {
+  constexpr std::size_t kLine = 64;
+  for (; !bytes.empty(); bytes.remove_prefix(std::min(kLine, bytes.size()))) {
+    const std::string_view line = bytes.substr(0, kLine);
+    const std::size_t start = rtf_.size();
+    rtf_.resize(start + 2 * line.size() + 1);
+    char* to = rtf_.data() + start;
+    for (const char c : line) {
+      const auto byte = static_cast<unsigned char>(c);
+      *to++ = kDigits[byte >> 4];
+      *to++ = kDigits[byte & 15];
+    }
+    *to = '\n';
+  }
+}
+
+}  // namespace
+
+std::string WriteRtf(const RichText& document) { return Writer(document).Write(); }
 
 }  // namespace brindlepage
