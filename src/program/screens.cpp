@@ -11,6 +11,8 @@
 #include "quiz/quiz_options.h"
 #include "quiz/quiz_options3.h"
 #include "quiz/quiz_options5.h"
+#include "wordsearch/puzzle_size.h"
+#include "wordsearch/word_search_form.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -45,11 +47,11 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::QuizOptions, "QuizOptions", Make<QuizOptions>},
     {Screen::QuizOptions3, "QuizOptions3", Make<QuizOptions3>},
     {Screen::QuizOptions5, "QuizOptions5", Make<QuizOptions5>},
-    {Screen::PuzzleSize, "PuzzleSize", MakeUnbuilt},
+    {Screen::PuzzleSize, "PuzzleSize", Make<PuzzleSize>},
     {Screen::QuizForm, "QuizForm", Make<QuizForm>},
     {Screen::Scramble, "Scramble", MakeUnbuilt},
     {Screen::CodeForm, "CodeForm", MakeUnbuilt},
-    {Screen::WordSearchForm, "WordSearchForm", MakeUnbuilt},
+    {Screen::WordSearchForm, "WordSearchForm", Make<WordSearchForm>},
     {Screen::RiddleForm, "RiddleForm", MakeUnbuilt},
     {Screen::CrosswordWorksheet, "CrosswordWorksheet", MakeUnbuilt},
     {Screen::StudyGuideForm, "StudyGuideForm", Make<StudyGuideForm>},
