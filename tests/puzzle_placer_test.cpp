@@ -19,6 +19,18 @@ std::string Corner(const PuzzleGrid& grid, int across, int down) {
   return corner;
 }
 
+// Whether the word's cells there are empty or its own letters.
+bool Fits(const PuzzleGrid& grid, const std::string& word, const PuzzlePlace& place) {
+  int x = place.x;
+  int y = place.y;
+  for (const char letter : word) {
+    if (!grid.IsEmpty(x, y) && grid.Letter(x, y) != letter) return false;
+    if (place.direction != Direction::Down) ++x;
+    if (place.direction != Direction::Across) ++y;
+  }
+  return true;
+}
+
 class PuzzlePlacerTest : public ::testing::Test {
  protected:
   bool Place(const char* word, int across, int down, bool easy = false) {
@@ -45,19 +57,28 @@ TEST_F(PuzzlePlacerTest, AClearedGridIsEmptyAndAWordIsWrittenInEachDirection) {
   EXPECT_EQ(Corner(grid, 2, 2), "..\n..\n");
 }
 
-TEST_F(PuzzlePlacerTest, AWordFitsOverEqualLettersAndOverNoOthers) {
-  grid.Write("cat", {1, 1, Direction::Across});
-  EXPECT_TRUE(grid.Fits("cat", {1, 1, Direction::Across}));
-  EXPECT_TRUE(grid.Fits("catalogue", {1, 1, Direction::Across}));
-  EXPECT_TRUE(grid.Fits("ape", {2, 1, Direction::Down}));
-  EXPECT_FALSE(grid.Fits("ape", {1, 1, Direction::Down}));
-  EXPECT_FALSE(grid.Fits("cab", {1, 1, Direction::Across}));
+// Starts as a set.
+PuzzleGrid::Numbers Starts(const std::vector<int>& starts) {
+  PuzzleGrid::Numbers set = 0;
+  for (const int start : starts) set |= PuzzleGrid::Bit(start);
+  return set;
+}
+
+TEST_F(PuzzlePlacerTest, AStartIsFreeOverEmptyCellsAndEqualLettersAndOverNoOthers) {
+  grid.Write("lava", {2, 5, Direction::Across});
+  EXPECT_EQ(grid.FreeStarts("ash", Direction::Down, 3, 6), Starts({1, 2, 5, 6}));
+  EXPECT_EQ(grid.FreeStarts("ash", Direction::Down, 4, 6), Starts({1, 2, 6}));
+  EXPECT_EQ(grid.FreeStarts("ash", Direction::Down, 6, 6), Starts({1, 2, 3, 4, 5, 6}));
+  EXPECT_EQ(grid.FreeStarts("la", Direction::Across, 5, 7), Starts({2, 6, 7}));
+  EXPECT_EQ(grid.FreeStarts("lava", Direction::Across, 5, 3), Starts({2}));
+  EXPECT_EQ(grid.FreeStarts("xa", Direction::Diagonal, 4, 7), Starts({2, 4, 5, 6, 7}));
+  EXPECT_EQ(grid.FreeStarts("xa", Direction::Diagonal, 5, 7), Starts({1, 6, 7}));
 }
 
 TEST_F(PuzzlePlacerTest, ACapitalAndASmallLetterClash) {
   grid.Write("Cat", {1, 1, Direction::Across});
-  EXPECT_FALSE(grid.Fits("cat", {1, 1, Direction::Across}));
-  EXPECT_TRUE(grid.Fits("Cat", {1, 1, Direction::Across}));
+  EXPECT_EQ(grid.FreeStarts("cat", Direction::Across, 1, 1), 0U);
+  EXPECT_EQ(grid.FreeStarts("Cat", Direction::Across, 1, 1), Starts({1}));
 }
 
 TEST_F(PuzzlePlacerTest, ABlankAndEvenANulAreLettersLikeOthers) {
@@ -66,7 +87,15 @@ TEST_F(PuzzlePlacerTest, ABlankAndEvenANulAreLettersLikeOthers) {
   EXPECT_FALSE(grid.IsEmpty(2, 1));
   EXPECT_EQ(grid.Letter(2, 1), ' ');
   EXPECT_FALSE(grid.IsEmpty(3, 1));
-  EXPECT_FALSE(grid.Fits("abcd", {1, 1, Direction::Across}));
+  EXPECT_EQ(grid.FreeStarts("abcb", Direction::Across, 1, 1), 0U);
+  EXPECT_EQ(grid.FreeStarts(word, Direction::Across, 1, 1), Starts({1}));
+}
+
+TEST_F(PuzzlePlacerTest, AnEmptyLineHasNoStartAndAnEmptyWordHasThemAll) {
+  EXPECT_EQ(grid.FreeStarts("cat", Direction::Across, 1, 0), 0U);
+  EXPECT_EQ(grid.FreeStarts(std::string(90, 'x'), Direction::Across, 1, -50), 0U);
+  EXPECT_EQ(grid.FreeStarts("", Direction::Across, 1, 3), Starts({1, 2, 3}));
+  EXPECT_EQ(grid.FreeStarts("x", Direction::Across, 40, 40), (PuzzleGrid::Bit(41) - 2));
 }
 
 TEST_F(PuzzlePlacerTest, ACellOutsideTheGridIsASubscriptError) {
@@ -75,7 +104,9 @@ TEST_F(PuzzlePlacerTest, ACellOutsideTheGridIsASubscriptError) {
   EXPECT_FAULT(9, grid.Letter(41, 1));
   EXPECT_FAULT(9, grid.Write("ab", {40, 1, Direction::Across}));
   EXPECT_FAULT(9, grid.Write("ab", {1, 40, Direction::Down}));
-  EXPECT_FAULT(9, grid.Fits("ab", {1, 40, Direction::Diagonal}));
+  EXPECT_FAULT(9, grid.FreeStarts("ab", Direction::Diagonal, 40, 1));
+  EXPECT_FAULT(9, grid.FreeStarts("ab", Direction::Across, 1, 40));
+  EXPECT_FAULT(9, grid.FreeStarts("ab", Direction::Down, 41, 1));
   EXPECT_FAULT(9, PuzzlePlacer(grid, 41, 10, false, draws));
   grid.Write("ab", {39, 40, Direction::Across});
   EXPECT_EQ(grid.Letter(40, 40), 'b');
@@ -310,8 +341,8 @@ bool WasPlaced(const PuzzleGrid& before, const PuzzleGrid& after, const std::str
         const bool room = (d == Direction::Down || x + length <= size.across) &&
                           (d == Direction::Across || y + length <= size.down);
         std::size_t newly = 0;
-        if (room && before.Fits(word, {x, y, d}) && Stands(after, before, word, {x, y, d}, newly) &&
-            newly == added) {
+        if (room && Fits(before, word, {x, y, d}) &&
+            Stands(after, before, word, {x, y, d}, newly) && newly == added) {
           return true;
         }
       }
@@ -326,9 +357,9 @@ bool HasRoom(const PuzzleGrid& grid, const std::string& word, Size size) {
     for (int y = 1; y <= size.down; ++y) {
       const bool across = x + length <= size.across;
       const bool down = y + length <= size.down;
-      if (across && grid.Fits(word, {x, y, Direction::Across})) return true;
-      if (down && grid.Fits(word, {x, y, Direction::Down})) return true;
-      if (across && down && grid.Fits(word, {x, y, Direction::Diagonal})) return true;
+      if (across && Fits(grid, word, {x, y, Direction::Across})) return true;
+      if (down && Fits(grid, word, {x, y, Direction::Down})) return true;
+      if (across && down && Fits(grid, word, {x, y, Direction::Diagonal})) return true;
     }
   }
   return false;

@@ -1,19 +1,21 @@
 #include "wordsearch/puzzle_placer.h"
 
+#include <algorithm>
+
 #include "toolkit/run_time_error.h"
 
 namespace brindlepage {
 
 PuzzlePlacer::PuzzlePlacer(PuzzleGrid& grid, int across, int down, bool easy, RandomSource& random)
     : grid_(grid), across_(across), down_(down), directions_(easy ? 2 : 3), random_(random) {
-  static_assert(PuzzleGrid::kLargest < 64, "a line's numbers fit the bits of Tried");
+  static_assert(PuzzleGrid::kLargest < 63, "a line's numbers fit the bits of Numbers");
   if (across > PuzzleGrid::kLargest || down > PuzzleGrid::kLargest) {
     throw RunTimeError(Fault::Subscript);
   }
 }
 
 bool PuzzlePlacer::Place(std::string_view word) {
-  Tried directions_tried = 0;
+  Numbers directions_tried = 0;
   for (int i = 0; i < directions_; ++i) {
     random_.Reseed();
     const auto direction = static_cast<Direction>(DrawUntried(directions_, directions_tried));
@@ -25,12 +27,12 @@ bool PuzzlePlacer::Place(std::string_view word) {
   return false;
 }
 
-int PuzzlePlacer::DrawUntried(int n, Tried& tried) {
+int PuzzlePlacer::DrawUntried(int n, Numbers& tried) {
   int number = 0;
   do {
     number = random_.DrawIndex(n);
-  } while ((tried >> number & 1) != 0);
-  tried |= Tried{1} << number;
+  } while ((tried & PuzzleGrid::Bit(number)) != 0);
+  tried |= PuzzleGrid::Bit(number);
   return number;
 }
 
@@ -41,17 +43,28 @@ std::optional<PuzzlePlace> PuzzlePlacer::Scan(Direction direction, std::string_v
   const int starts = (goes_down ? down_ : across_) - length;
   const int lines = goes_down ? across_ : direction == Direction::Across ? down_ : down_ - length;
 
-  Tried lines_tried = 0;
+  Numbers lines_tried = 0;
   for (int i = 0; i < lines; ++i) {
     const int line = DrawUntried(lines, lines_tried);
-    Tried starts_tried = 0;
-    for (int j = 0; j < starts; ++j) {
-      const int start = DrawUntried(starts, starts_tried);
-      const PuzzlePlace place{goes_down ? line : start, goes_down ? start : line, direction};
-      if (grid_.Fits(word, place)) return place;
+    const Numbers free = grid_.FreeStarts(word, direction, line, starts);
+    if (const int start = DrawStart(starts, free)) {
+      return PuzzlePlace{goes_down ? line : start, goes_down ? start : line, direction};
     }
   }
   return std::nullopt;
+}
+
+// Starts that were tried are drawn again, but since none of them was free this is the same as
+// drawing until a free one comes, or until all have come.
+int PuzzlePlacer::DrawStart(int starts, Numbers free) {
+  const Numbers all = PuzzleGrid::Bit(std::max(starts, 0) + 1) - PuzzleGrid::Bit(1);
+  Numbers drawn = 0;
+  while (drawn != all) {
+    const int start = random_.DrawIndex(starts);
+    drawn |= PuzzleGrid::Bit(start);
+    if ((drawn & free) != 0) return start;
+  }
+  return 0;
 }
 
 }  // namespace brindlepage

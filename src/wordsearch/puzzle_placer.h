@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
@@ -28,13 +27,14 @@ class PuzzlePlacer {
   bool Place(std::string_view word);
 
  private:
-  // The numbers drawn so far, each the bit of its number.
-  using Tried = std::uint64_t;
+  using Numbers = PuzzleGrid::Numbers;
 
   // A number from 1 to n that wasn't drawn before.
-  int DrawUntried(int n, Tried& tried);
+  int DrawUntried(int n, Numbers& tried);
   // The first free place, the lines in random order and in each line the starts in random order.
   std::optional<PuzzlePlace> Scan(Direction direction, std::string_view word);
+  // Draws starts of a line until a free one comes; 0 when all have been tried and none is free.
+  int DrawStart(int starts, Numbers free);
 
   PuzzleGrid& grid_;
   const int across_;
