@@ -1,0 +1,120 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include "core/shared_state.h"
+#include "crossword/crossword_grid.h"
+#include "toolkit/random_source.h"
+
+namespace brindlepage {
+
+// Lays the marked words on the crossword grid: a randomised first fit, restarted as a whole until
+// a grid is accepted. The slider, CrossSize, says how many restarts are worth it.
+//
+//   GridBuilder builder(shared, random, [&](int value) { ProgressBar1.Value = value; });
+//   builder.Build();
+//   if (!builder.GaveUp()) NumberGrid(builder.grid(), shared.MarkedCount);
+//
+// A builder builds once: a remake takes a new one. It reads ListWords, ListWordCount, MarkedCount,
+// WordMarks, BestPuzzle and CrossSize, and writes AnswerTable (the word order: position p holds
+// list word AnswerTable(p)), WordMarks and OrphansFlag.
+//
+// Manual mode (BestPuzzle 0) wants the marked words, all of them at first: while there were up to
+// CrossSize / 3 restarts every word must cross when its turn comes. Then words that cross nothing,
+// orphans, may stand by themselves, ever more of them; from CrossSize restarts on the builder
+// gives up. Best mode lays as many words of the list as can cross and leaves the others out.
+//
+// A restart runs inside the attempt it interrupts. When it ends, the interrupted attempt goes on
+// where it was, on the grid that the restart left, and may restart again.
+class GridBuilder {
+ public:
+  // Told the new value of the progress bar, 0 to CrossSize, whenever it changes. The bar's
+  // maximum is CrossSize and it stands at 0 when a build begins.
+  using Progress = std::function<void(int value)>;
+
+  // The words have at most 17 letters and no blanks.
+  GridBuilder(SharedState& shared, RandomSource& random, Progress progress = {});
+
+  // Throws RunTimeError 28 when restarts nest ten thousand deep, and 9 for a word of more than 17
+  // letters. Never returns if fewer words are marked than MarkedCount says.
+  void Build();
+
+  // The program was unable to make the puzzle. What is left on the grid is no puzzle.
+  bool GaveUp() const { return gave_up_; }
+  CrosswordGrid& grid() { return grid_; }
+  const CrosswordGrid& grid() const { return grid_; }
+
+  // Restarts so far; best mode counts from 0 again each time it aims lower.
+  int Attempts() const { return attempts_; }
+  // Orphans of the last attempt that laid any aside. Whether the accepted puzzle is to be told of
+  // as one with orphans is in SharedState::OrphansFlag.
+  int OrphanCount() const { return orphan_count_; }
+  // How deep restarts nested at most.
+  int DeepestRestart() const { return deepest_restart_; }
+
+ private:
+  // The steps of an attempt, in order.
+  enum class Stage : std::uint8_t { FirstSweep, RetryStage, Acceptance, GridCheck, Over };
+
+  // What an attempt keeps to itself while a restart runs inside it. All else is shared.
+  struct Attempt {
+    Stage stage = Stage::FirstSweep;
+    int last_turn = 0;    // the loop bound of the first sweep
+    int retries = 0;      // entries of retry_list_
+    int orphans = 0;      // words of retry_list_ that cross nothing
+    int scan_next = 0;    // best mode: where a scan goes on, 0 if none was interrupted
+    int scan_failed = 0;  // best mode: the last position that failed in that scan
+  };
+
+  // A stretch of an attempt ends with the attempt, or when a restart was asked for.
+  enum class Stretch { Ended, Interrupted };
+
+  void ShuffleWords();
+  void ShuffleMarkedWords();
+  void ListWordsBehind(int first);
+  void BuildPuzzle();
+  void RetryPuzzle();
+  void BeginAttempt();
+  void Continue(Attempt& attempt);
+
+  Stretch FirstSweep(Attempt& attempt);
+  Stretch ScanBestWords(Attempt& attempt);
+  Stretch RetryStage(Attempt& attempt);
+  void RetryPass(Attempt& attempt);
+  bool Accepted(const Attempt& attempt);
+  bool GridNotEmpty() const;
+  bool PlaceOrphan();
+
+  void PlaceFirstWord();
+  void SearchCrossing();
+  bool TryCell(int column, int row, std::uint32_t letters);
+  void TryBothWays(int column, int row, int k);
+
+  SharedState& shared_;
+  RandomSource& random_;
+  Progress progress_;
+
+  CrosswordGrid grid_;
+  BoundedArray<Integer, 0, 300> retry_list_;
+  std::vector<Attempt> nested_;
+  int attempts_ = 0;
+  int target_words_ = 0;
+  int orphan_count_ = 0;
+  int turn_ = 0;  // the counter of the first sweep
+  int word_pos_ = 0;
+  std::string_view current_word_;
+  bool placed_flag_ = false;
+  int remaining_ = 0;
+  int last_failure_ = 0;
+  bool orphan_just_placed_ = false;
+  double progress_accum_ = 0;
+  int bar_value_ = 0;
+  bool gave_up_ = false;
+  int deepest_restart_ = 0;
+};
+
+}  // namespace brindlepage
