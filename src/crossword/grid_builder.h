@@ -63,50 +63,78 @@ class GridBuilder {
   // What an attempt keeps to itself while a restart runs inside it. All else is shared.
   struct Attempt {
     Stage stage = Stage::FirstSweep;
-    int last_turn = 0;    // the loop bound of the first sweep
-    int retries = 0;      // entries of retry_list_
-    int orphans = 0;      // words of retry_list_ that cross nothing
-    int scan_next = 0;    // best mode: where a scan goes on, 0 if none was interrupted
-    int scan_failed = 0;  // best mode: the last position that failed in that scan
+    bool orphan_due = false;  // the retry stage was interrupted while it placed an orphan
+    int last_turn = 0;        // the loop bound of the first sweep
+    int retries = 0;          // how many entries of retry_list_ it made
+    int orphans = 0;          // how many of them cross nothing
+    int scan_at = 0;          // best mode: the turn of a scan that was interrupted, 0 if none was
+    int scan_failed = 0;      // best mode: the last position that failed in the scan
   };
 
-  // A stretch of an attempt ends with the attempt, or when a restart was asked for.
-  enum class Stretch { Ended, Interrupted };
+  // How a stretch of an attempt ended.
+  enum class Outcome { Done, RestartWanted };
+
+  struct Way;
+  static const Way kAcrossWay;
+  static const Way kDownWay;
+
+  bool BestMode() const { return shared_.BestPuzzle == 1; }
+  void CheckWords() const;
+  void Prepare();
 
   void ShuffleWords();
-  void ShuffleMarkedWords();
-  void ListWordsBehind(int first);
+  void TakeIntoOrder(int position, int word);
+  int DrawMarkedWord();
+
   void BuildPuzzle();
-  void RetryPuzzle();
   void BeginAttempt();
-  void Continue(Attempt& attempt);
+  Outcome Continue(Attempt& attempt);
+  void RetryPuzzle();
+  void Mark();
 
-  Stretch FirstSweep(Attempt& attempt);
-  Stretch ScanBestWords(Attempt& attempt);
-  Stretch RetryStage(Attempt& attempt);
+  Outcome FirstSweep(Attempt& attempt);
+  Outcome KeepOrLayAside(Attempt& attempt);
+  Outcome ScanBestWords(Attempt& attempt);
+  void CountScanFailure(int n);
+  Outcome RetryStage(Attempt& attempt);
   void RetryPass(Attempt& attempt);
-  bool Accepted(const Attempt& attempt);
-  bool GridNotEmpty() const;
-  bool PlaceOrphan();
+  Outcome Acceptance(const Attempt& attempt);
+  bool EnoughCross(const Attempt& attempt) const;
+  Outcome CheckGridNotEmpty() const;
 
+  bool Placed(int position) const { return grid_.PlacedWords(position).Number >= 1; }
+  void TakeWord(int position);
   void PlaceFirstWord();
   void SearchCrossing();
-  bool TryCell(int column, int row, std::uint32_t letters);
-  void TryBothWays(int column, int row, int k);
+  void SearchForward();
+  void SearchBackward();
+  bool TryCell(int cell);
+  bool TryBothWays(int cell, int k);
+  bool TryWay(const Way& way, int cell, int k);
+  bool Fits(const Way& way, int cell, int k) const;
+  Outcome PlaceOrphan();
+  bool TryOrphanCells(const Way& way);
+  bool FitsAlone(const Way& way, int cell) const;
+  void WriteWord(const Way& way, int start_cell);
+
+  void ShowProgress(int value);
 
   SharedState& shared_;
   RandomSource& random_;
   Progress progress_;
+  int slider_ = 0;
 
   CrosswordGrid grid_;
-  BoundedArray<Integer, 0, 300> retry_list_;
-  std::vector<Attempt> nested_;
+  BoundedArray<Integer, 0, 300> retry_list_;  // positions that found no crossing at first
+  std::vector<Attempt> nested_;               // the interrupted attempts, and the one that runs
   int attempts_ = 0;
   int target_words_ = 0;
   int orphan_count_ = 0;
   int turn_ = 0;  // the counter of the first sweep
   int word_pos_ = 0;
   std::string_view current_word_;
+  // Of each letter, a bit for each place it has in the word that is searched a crossing for.
+  std::array<std::uint32_t, 256> letter_places_{};
   bool placed_flag_ = false;
   int remaining_ = 0;
   int last_failure_ = 0;
