@@ -173,6 +173,7 @@ TEST_F(ListsDesktop, AClickThatComesBeforeTheActivationIsNotLostEither) {
 TEST_F(ListsDesktop, AMessageTakesNoBoxAway) {
   BeginEdit();
   ClickTool("EditList", "Add Word");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(WindowOf("AddWord")));
   TypeText("Pluto");
   AnswerBoxes("OK");
   desktop_->loop().Dispatch([this] { program().MsgBox("A notice of the program's own.", "Hey!"); });
@@ -191,13 +192,16 @@ TEST_F(ListsDesktop, TheLabelForALetterIsClickedByTheMouseAndByTheKeys) {
   EXPECT_EQ(TextOf("EditWord", "TheWord"), "Mars");
   Click("EditWord", "Label3");
   ASSERT_EQ(Active(), "FLForm");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(WindowOf("FLForm")));
   Press(Qt::Key_Escape);
   ASSERT_EQ(Active(), "EditWord");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(WindowOf("EditWord")));
   Widget("EditWord", "Label3")->setFocus();
   Press(Qt::Key_Space);
   ASSERT_EQ(Active(), "FLForm");
   Click("FLForm", "FLButton", 0);
   EXPECT_EQ(TextOf("EditWord", "TheWord"), "MarsA");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(WindowOf("EditWord")));
   Widget("EditWord", "TheWord")->setFocus();
   Press(Qt::Key_Return);
   EXPECT_EQ(Active(), "EditList");
