@@ -9,7 +9,7 @@ namespace brindlepage {
 // Hands everything on to a walk's window system, and has each box answered just before it opens.
 class AnsweringPlatform : public Platform {
  public:
-  enum class Box { Message, YesNo, YesNoCancel, Input, Print, Open };
+  enum class Box { Message, YesNo, YesNoCancel, Input, Print, PrintWhole, Open };
   // Gives the answer as a script writes it, or "" for none.
   using Answers = std::function<std::string(Box)>;
 
@@ -28,7 +28,7 @@ class AnsweringPlatform : public Platform {
     return platform_.InputBox(prompt, title, text);
   }
   std::optional<PrintChoice> PrintDialog(unsigned flags) override {
-    Answer(Box::Print);
+    Answer((flags & kPrintNoSelection) != 0 ? Box::PrintWhole : Box::Print);
     return platform_.PrintDialog(flags);
   }
   std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,

@@ -56,6 +56,7 @@ std::string Round::AnswerTo(AnsweringPlatform::Box box) {
       {Box::YesNoCancel, {"yes", "no", "cancel"}},
       {Box::Input, {"cancel", "", "", ""}},
       {Box::Print, {"all", "selection", "cancel"}},
+      {Box::PrintWhole, {"all", "cancel"}},
       {Box::Open, {"cancel", ""}},
   };
   const auto& answers = kAnswers.at(box);
