@@ -151,7 +151,17 @@ Step Photo(QString name) {
 std::vector<Walk> Walks() {
   return {
       {Tool("Title", "Info")},
-      {Click("Title", "Command3"), Click("JustForFun", "Command2")},
+      // Coded riddles, and a cryptoquip of a riddle.
+      {Click("Title", "Command3"), Click("JustForFun", "Command2"),
+       Click("RiddleOption1", "Command3"), Photo("RiddleOption1-added"),
+       Click("RiddleOption1", "Image1"), Click("RiddleOption1", "Command3"),
+       Click("RiddleOption1", "Command2"), Click("QuizOptions5", "Command1"),
+       Photo("CodeForm-riddles"), Tool("CodeForm", "Key"), Photo("CodeForm-riddles-key")},
+      {Click("Title", "Command3"), Click("JustForFun", "Command3"),
+       Click("RiddleOption1", "Command2"), Click("RiddleOption1", "Image1"),
+       Click("RiddleOption1", "Command3"), Click("RiddleOption1", "Command2"),
+       Click("QuizOptions5", "Command1"), Photo("CodeForm-cryptoquip"), Tool("CodeForm", "Key"),
+       Photo("CodeForm-cryptoquip-key")},
       // A word list can't be chosen where there is none.
       {Click("Title", "Command1", 4), DoubleClickNothing("ChooseList", "TheLists"),
        Click("ChooseReminder", "Command1"), Select("ChooseList", "TheLists", 3),
@@ -161,6 +171,20 @@ std::vector<Walk> Walks() {
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
        Mark("PickWords", "TheWords", {0, 2, 3, 5}), Photo("PickWords-marked"),
        Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2")},
+      // A scramble worksheet, a secret code and a riddle.
+      {Click("Title", "Command1", 2), Select("ChooseList", "TheLists", 3),
+       Click("ChooseList", "Command1"), Click("ScrambleOption1", "Command1"),
+       Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
+       Click("PickWords", "Command2"), Tool("Scramble", "Key"), Photo("Scramble-key")},
+      {Click("Title", "Command1", 5), Select("ChooseList", "TheLists", 3),
+       Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
+       Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"), Tool("CodeForm", "Key"),
+       Photo("CodeForm-key")},
+      {Click("Title", "Command1", 6), Select("ChooseList", "TheLists", 3),
+       Click("ChooseList", "Command1"), Click("ChooseRiddle", "Label4"),
+       Photo("ChooseRiddle-second"), Click("ChooseRiddle", "Command2"),
+       Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
+       Click("PickWords", "Command2"), Tool("RiddleForm", "Key"), Photo("RiddleForm-key")},
       // A quiz.
       {Click("Title", "Command1", 3), Select("ChooseList", "TheLists", 1),
        Click("ChooseList", "Command1"), Click("QuizOptions3", "Command1"),

@@ -12,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QStyle>
@@ -520,10 +521,22 @@ class ImageControlView : public ViewOf<Image> {
     new Clicks(
         widget(), [this] { Act([](Image& i) { i.UserClick(); }); },
         [this] { Act([](Image& i) { i.UserDoubleClick(); }); });
+    if (image.Click) widget()->setCursor(Qt::PointingHandCursor);
+    if (image.key == Key::PageUp) Click(Qt::Key_PageUp, setting.parent);
+    if (image.key == Key::PageDown) Click(Qt::Key_PageDown, setting.parent);
   }
 
  protected:
   void SyncState() override { static_cast<PictureView*>(widget())->Show(box().Picture); }
+
+ private:
+  // The key clicks the image, whatever has the focus.
+  void Click(Qt::Key key, QWidget* form) {
+    auto* shortcut =
+        new QShortcut(QKeySequence(key), form, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, this,
+            [this] { Act([](Image& i) { i.UserClick(); }); });
+  }
 };
 
 class ScrollBarView : public ViewOf<HScrollBar> {

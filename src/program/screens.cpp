@@ -11,6 +11,12 @@
 #include "quiz/quiz_options.h"
 #include "quiz/quiz_options3.h"
 #include "quiz/quiz_options5.h"
+#include "riddle/choose_riddle.h"
+#include "riddle/riddle_form.h"
+#include "riddle/riddle_option1.h"
+#include "scramble_code/code_form.h"
+#include "scramble_code/scramble.h"
+#include "scramble_code/scramble_option1.h"
 #include "worksheet/study_guide_form.h"
 
 namespace brindlepage {
@@ -47,15 +53,15 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::QuizOptions5, "QuizOptions5", Make<QuizOptions5>},
     {Screen::PuzzleSize, "PuzzleSize", MakeUnbuilt},
     {Screen::QuizForm, "QuizForm", Make<QuizForm>},
-    {Screen::Scramble, "Scramble", MakeUnbuilt},
-    {Screen::CodeForm, "CodeForm", MakeUnbuilt},
+    {Screen::Scramble, "Scramble", Make<Scramble>},
+    {Screen::CodeForm, "CodeForm", Make<CodeForm>},
     {Screen::WordSearchForm, "WordSearchForm", MakeUnbuilt},
-    {Screen::RiddleForm, "RiddleForm", MakeUnbuilt},
+    {Screen::RiddleForm, "RiddleForm", Make<RiddleForm>},
     {Screen::CrosswordWorksheet, "CrosswordWorksheet", MakeUnbuilt},
     {Screen::StudyGuideForm, "StudyGuideForm", Make<StudyGuideForm>},
-    {Screen::ScrambleOption1, "ScrambleOption1", MakeUnbuilt},
-    {Screen::ChooseRiddle, "ChooseRiddle", MakeUnbuilt},
-    {Screen::RiddleOption1, "RiddleOption1", MakeUnbuilt},
+    {Screen::ScrambleOption1, "ScrambleOption1", Make<ScrambleOption1>},
+    {Screen::ChooseRiddle, "ChooseRiddle", Make<ChooseRiddle>},
+    {Screen::RiddleOption1, "RiddleOption1", Make<RiddleOption1>},
     {Screen::CrossOption1, "CrossOption1", MakeUnbuilt},
     {Screen::CrossOption2, "CrossOption2", MakeUnbuilt},
     {Screen::PleaseWait, "PleaseWait", MakeUnbuilt},

@@ -30,6 +30,7 @@ void Control::Changed() { form_.ControlChanged(*this); }
 void Control::Press(Key key) {
   if (key == Key::Enter) form_.ClickDefault();
   if (key == Key::Escape) form_.ClickCancel();
+  if (key == Key::PageUp || key == Key::PageDown) form_.ClickImage(key);
 }
 
 }  // namespace brindlepage

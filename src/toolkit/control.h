@@ -54,8 +54,8 @@ class Control : public PropertyOwner {
 
   virtual void UserClick() { Click(); }
   virtual void UserDoubleClick() { DblClick(); }
-  // Enter clicks the form's default button and Escape its cancel button, unless the control has
-  // a use for the key itself.
+  // Enter clicks the form's default button, Escape its cancel button and the page keys the images
+  // that have them, unless the control has a use for the key itself.
   virtual void Press(Key key);
 
  private:

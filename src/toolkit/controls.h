@@ -111,11 +111,12 @@ class Frame : public Control {
 
 class Image : public Control {
  public:
-  Image(Form& form, std::string name, std::string image_icon = "")
-      : Control(form, std::move(name)), icon(std::move(image_icon)) {}
+  Image(Form& form, std::string name, std::string image_icon = "", Key image_key = Key::Other)
+      : Control(form, std::move(name)), icon(std::move(image_icon)), key(image_key) {}
 
   Property<PicturePtr> Picture{*this, "Picture"};
   const std::string icon;  // shown while there is no picture
+  const Key key;           // PageUp or PageDown anywhere on the form clicks it; Other: no key
 };
 
 class HScrollBar : public Control {

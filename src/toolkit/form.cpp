@@ -60,6 +60,13 @@ void Form::ClickCancel() {
   }
 }
 
+void Form::ClickImage(Key key) {
+  for (Control* control : controls_) {
+    auto* image = dynamic_cast<Image*>(control);
+    if (image != nullptr && image->key == key && image->CanAct()) return image->UserClick();
+  }
+}
+
 void Form::Changed() { runtime_.platform().FormChanged(*this); }
 
 void Form::ControlChanged(Control& control) { runtime_.platform().ControlChanged(control); }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "toolkit/arrangement.h"
+#include "toolkit/keys.h"
 #include "toolkit/picture.h"
 #include "toolkit/property.h"
 
@@ -58,6 +59,8 @@ class Form : public PropertyOwner {
   void Focus(Control& control);
   void ClickDefault();
   void ClickCancel();
+  // The image of that key, if there is one.
+  void ClickImage(Key key);
 
   void Changed() override;
   void ControlChanged(Control& control);

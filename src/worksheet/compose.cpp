@@ -27,4 +27,37 @@ void WriteCentredLine(RichText& box, std::string_view text) {
   box.SelAlignment(Alignment::Right);
 }
 
+void BeginSheet(RichText& box, NameLine width, std::string_view title) {
+  box.Text("");
+  box.SelFontSize(10);
+  box.SelFontName(kTimes);
+  box.SelAlignment(Alignment::Centre);
+  WriteNameDateLine(box, width);
+  WriteTitleBlock(box, title);
+  CaretToEnd(box);
+  box.SelFontSize(12);
+  box.SelBold(false);
+}
+
+void WriteDirections(RichText& box, std::string_view run) {
+  box.SelBold(true);
+  box.SelItalic(true);
+  AppendRun(box, run);
+  CaretToEnd(box);
+  box.SelItalic(false);
+  box.SelBold(false);
+}
+
+void BeginKey(RichText& box, std::string_view title) {
+  box.Text("");
+  box.SelFontSize(16);
+  box.SelAlignment(Alignment::Centre);
+  AppendRun(box, kLineFeed + std::string(title) + kLineFeed);
+  box.SelUnderline(true);
+  box.SelFontSize(14);
+  AppendRun(box, "Answer Key\n\n");
+  box.SelAlignment(Alignment::Left);
+  box.SelUnderline(false);
+}
+
 }  // namespace brindlepage::compose

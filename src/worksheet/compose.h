@@ -29,4 +29,13 @@ void WriteTitleBlock(RichText& box, std::string_view title);
 // A centred line; the alignment behind it is right.
 void WriteCentredLine(RichText& box, std::string_view text);
 
+// How most sheets begin, from an empty box: the name line and the title, centred. What follows is
+// centred as well, in 12 points, plain.
+void BeginSheet(RichText& box, NameLine width, std::string_view title);
+// One run, bold and italic; plain behind it.
+void WriteDirections(RichText& box, std::string_view run);
+// How most keys begin, from an empty box: the title in 16 points and "Answer Key", underlined, in
+// 14, centred. What follows is left and not underlined.
+void BeginKey(RichText& box, std::string_view title);
+
 }  // namespace brindlepage::compose

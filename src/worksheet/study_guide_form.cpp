@@ -16,19 +16,6 @@ constexpr WorksheetDesign kDesign = {
     .resize_key_box = false,
 };
 
-void WriteHeading(const SharedState& shared, RichText& box) {
-  box.Text("");
-  box.SelFontSize(10);
-  box.SelFontName(compose::kTimes);
-  box.SelAlignment(Alignment::Centre);
-  compose::WriteNameDateLine(box, kDesign.name_line);
-  compose::WriteTitleBlock(box, shared.WorksheetTitle);
-  compose::CaretToEnd(box);
-  box.SelFontSize(12);
-  box.SelBold(false);
-  box.SelAlignment(Alignment::Left);
-}
-
 void MoveMarkedWordsToFront(SharedState& shared) {
   int place = 1;
   for (int word = 1; word <= shared.ListWordCount; ++word) {
@@ -60,7 +47,8 @@ void StudyGuideForm::Load() {
 }
 
 void ComposeStudySheet(SharedState& shared, RichText& box) {
-  WriteHeading(shared, box);
+  compose::BeginSheet(box, kDesign.name_line, shared.WorksheetTitle);
+  box.SelAlignment(Alignment::Left);
   BuildStudyList(shared, box);
 }
 
