@@ -128,6 +128,7 @@ TEST_F(ChooseRiddleTest, GoBackReturnsToTheLists) {
 }
 
 TEST_F(ChooseRiddleTest, AMissingFileEndsTheProgram) {
+  std::filesystem::remove("Riddles.dat");
   Walk();
   EXPECT_EQ(TakeLog(), (std::vector<std::string>{"error 53 File not found"}));
   EXPECT_TRUE(program.Ended());
