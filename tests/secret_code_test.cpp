@@ -110,8 +110,8 @@ TEST(CluePair, TwoDifferentLettersGiveBothOfThemInEitherOrder) {
     SeededRandom random(seed);
     clues.insert(MakeCluePair("a b!", Backwards(), random));
   }
-  EXPECT_EQ(clues, (std::set<std::string>{"      Hint: Z = A and Y = B",
-                                          "      Hint: Y = B and Z = A"}));
+  EXPECT_EQ(clues,
+            (std::set<std::string>{"      Hint: Z = A and Y = B", "      Hint: Y = B and Z = A"}));
 }
 
 TEST(CluePair, AnAtSignStandsForItself) {

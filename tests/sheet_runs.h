@@ -20,8 +20,8 @@ inline std::vector<std::string> Runs(const RichText& box) {
       line += format.underline ? 'u' : '-';
       line += std::string(" ") + "lrc"[static_cast<int>(paragraph.alignment)] + "|";
       const std::u32string text = box.PlainText();
-      line += code_page::FromUnicode(text.substr(static_cast<std::size_t>(run.start),
-                                                 static_cast<std::size_t>(run.length)));
+      line += code_page::FromUnicode(
+          text.substr(static_cast<std::size_t>(run.start), static_cast<std::size_t>(run.length)));
       runs.push_back(line);
     }
   }
