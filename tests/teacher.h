@@ -115,6 +115,7 @@ class Teacher : public ::testing::Test {
     }
     folder.Write("brindlepage.dat", "a\r\nb\r\n*****\r\nlistpath\r\n");
     folder.Write("TheLists.dat", "Planets\r\nMars\r\nred\r\nVenus\r\nhot\r\nEarth\r\nhome\r\n");
+    folder.Write("Riddles.dat", "Who is it?\r\nNobody\r\n");
   }
 
   void Start() { program.Start(); }

@@ -520,7 +520,8 @@ class ImageControlView : public ViewOf<Image> {
       : ViewOf(setting.loop, image, new PictureView(NamedIcon(image.icon), setting.parent)) {
     new Clicks(
         widget(), [this] { Act([](Image& i) { i.UserClick(); }); },
-        [this] { Act([](Image& i) { i.UserDoubleClick(); }); });
+        // Quick clicks are clicks, where a double click means nothing else.
+        [this] { Act([](Image& i) { i.DblClick ? i.UserDoubleClick() : i.UserClick(); }); });
     if (image.Click) widget()->setCursor(Qt::PointingHandCursor);
     if (image.key == Key::PageUp) Click(Qt::Key_PageUp, setting.parent);
     if (image.key == Key::PageDown) Click(Qt::Key_PageDown, setting.parent);

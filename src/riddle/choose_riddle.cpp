@@ -10,7 +10,8 @@ ChooseRiddle::ChooseRiddle(Program& owner)
   Label5.Click = [this] { PreviousRiddle(); };
   Command1.Click = [this] { StepTo(Screen::ChooseList); };
   Command2.Click = [this] { Choose(); };
-  Arrange(Column(Label1, OpenPage(Image2, Image1), Row(Label5, Spring(), Label4), Spring(),
+  Arrange(Column(Label1, Leaves(),
+                 Row(Image2, Label5, Spring(), PageLabel, Spring(), Label4, Image1), Gap(),
                  Row(Command1, Spring(), Command2)));
 }
 

@@ -6,8 +6,6 @@ namespace brindlepage {
 
 namespace {
 
-constexpr int kCentred = 2;
-
 std::string PageText(int index, int count) {
   if (count == 0) return "No riddles in the book";
   if (index < 0 || index >= count) return "";
@@ -43,10 +41,8 @@ void RiddleBook::ShowRiddle() {
   PageLabel.Caption = PageText(RiddleIndex, RiddleList.ListCount());
 }
 
-Arrangement RiddleBook::OpenPage(Arrangement previous, Arrangement next) {
-  return Row(previous,
-             Fill(Column(Row(Label2, Fill(RiddleBox)), Row(Label3, Fill(Punchbox)), PageLabel)),
-             next);
+Arrangement RiddleBook::Leaves() {
+  return Fill(Row(Fill(Column(Label2, Fill(RiddleBox))), Fill(Column(Label3, Fill(Punchbox)))));
 }
 
 }  // namespace brindlepage

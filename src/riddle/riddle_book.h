@@ -24,6 +24,8 @@ class RiddleBook : public ProgramForm {
   Label PageLabel{*this, "PageLabel", "", Look::Note};
 
  protected:
+  static constexpr int kCentred = 2;  // of a label
+
   // The page on show, from 0.
   int RiddleIndex = 0;
 
@@ -36,8 +38,8 @@ class RiddleBook : public ProgramForm {
   // The page at RiddleIndex; a page that isn't there is blank.
   void ShowRiddle();
 
-  // The two leaves of the open page, between the arrows.
-  Arrangement OpenPage(Arrangement previous, Arrangement next);
+  // The open book: the riddle on its left leaf, the answer on the right.
+  Arrangement Leaves();
 };
 
 }  // namespace brindlepage

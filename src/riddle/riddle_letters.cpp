@@ -45,7 +45,7 @@ class LetterNumbers {
 
   void NumberLetter(int place) {
     std::string& cell = cells_.answer(place);
-    if (std::string* hit = FindLetter(cell)) {
+    if (std::string* hit = FindLetter(cell.front())) {
       cell = "(" + std::to_string(place) + ")";
       *hit = cell;
     } else {
@@ -54,13 +54,13 @@ class LetterNumbers {
   }
 
   // A cell of the words that holds the letter still; null if all tries miss.
-  std::string* FindLetter(const std::string& letter) {
+  std::string* FindLetter(char letter) {
     for (int i = 0; i < kTries; ++i) {
       random_.Reseed();
       const int word = random_.DrawIndex(static_cast<int>(words_.size()));
       const int place = random_.DrawIndex(LengthOfWord(word));
       std::string& cell = cells_.words(word)(place);
-      if (cell == letter) return &cell;
+      if (cell.size() == 1 && cell.front() == letter) return &cell;
     }
     return nullptr;
   }

@@ -6,11 +6,13 @@ RiddleOption1::RiddleOption1(Program& owner)
     : RiddleBook(owner, Screen::RiddleOption1, "RiddleOption1", "Coded Riddles Worksheet") {
   Command3.Default = true;
   Command1.Cancel = true;
+  TotalLabel.Alignment = kCentred;
   Command3.Click = [this] { Add(); };
   Command1.Click = [this] { StepTo(Screen::JustForFun); };
   Command2.Click = [this] { Continue(); };
-  Arrange(Column(Label1, OpenPage(Image2, Image1), Row(Spring(), Command3, Spring()), Gap(),
-                 TotalLabel, Spring(), Row(Command1, Spring(), Command2)));
+  Arrange(Column(Label1, Leaves(), Row(Image2, Spring(), PageLabel, Spring(), Image1),
+                 Row(Spring(), Command3, Spring()), TotalLabel, Gap(),
+                 Row(Command1, Spring(), Command2)));
 }
 
 void RiddleOption1::Load() {

@@ -9,6 +9,7 @@ ScrambleOption1::ScrambleOption1(Program& owner)
   Command1.Click = [this] { GiveHints(true); };
   Command2.Click = [this] { GiveHints(false); };
   Command3.Click = [this] { StepTo(Screen::ChooseList); };
+  Command1.SetFocus();
   Arrange(Column(Label1, Spring(), Row(Command3, Spring(), Command2, Command1)));
 }
 

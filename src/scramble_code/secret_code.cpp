@@ -16,10 +16,17 @@ int Code(char character) { return static_cast<unsigned char>(character); }
 
 char LetterAt(int place) { return static_cast<char>(place + kBeforeA); }
 
-std::string CodeOf(char capital, const CodeTable& table, CodeStyle style) {
-  const int number = table(Code(capital) - kBeforeA);
-  if (style == CodeStyle::Letters) return std::string(1, LetterAt(number));
-  return "[" + std::to_string(number) + "]";
+// What stands for each letter of the alphabet, from element 1.
+using Cells = BoundedArray<std::string, 0, kLetters>;
+
+Cells MakeCells(const CodeTable& table, CodeStyle style) {
+  Cells cells;
+  for (int place = 1; place <= kLetters; ++place) {
+    const int number = table(place);
+    cells(place) = style == CodeStyle::Letters ? std::string(1, LetterAt(number))
+                                               : "[" + std::to_string(number) + "]";
+  }
+  return cells;
 }
 
 int LetterOf(int number, const CodeTable& table) {
@@ -41,7 +48,8 @@ bool IsClue(std::string_view character) {
 }
 
 std::string ClueText(std::string_view character, const CodeTable& table) {
-  return CodeOf(character.front(), table, CodeStyle::Letters) + " = " + std::string(character);
+  const char code = LetterAt(table(Code(character.front()) - kBeforeA));
+  return code + (" = " + std::string(character));
 }
 
 }  // namespace
@@ -62,11 +70,13 @@ CodeTable MakeCodeTable(RandomSource& random) {
 }
 
 std::string EncodeText(std::string_view text, const CodeTable& table, CodeStyle style) {
+  const Cells cells = MakeCells(table, style);
   std::string coded;
+  coded.reserve(text.size() * 4);
   for (const char character : text) {
     const char capital = code_page::UpperCase(character);
     if (capital >= 'A' && capital <= 'Z') {
-      coded += CodeOf(capital, table, style);
+      coded += cells(capital - kBeforeA);
     } else if (capital == ' ') {
       coded += "  ";
     } else {
