@@ -1,5 +1,7 @@
 #include "quiz/quiz_form.h"
 
+#include "quiz/quiz_sheet.h"
+
 namespace brindlepage {
 
 namespace {
@@ -22,6 +24,7 @@ QuizForm::QuizForm(Program& owner) : WorksheetForm(owner, kDesign) {}
 void QuizForm::Load() {
   PrepareWorksheet();
   if (shared.ActivityKind == kSavedWorksheet) return OpenSavedWorksheet();
+  ComposeQuiz(shared, runtime().random(), QuizBox, AnswerBox);
   FinishWorksheetLoad();
 }
 
