@@ -1,5 +1,6 @@
 #include "worksheet/study_guide_form.h"
 
+#include "tests/sheet_runs.h"
 #include "tests/teacher.h"
 
 namespace brindlepage {
@@ -7,26 +8,6 @@ namespace {
 
 const std::string kWidest =
     "Name_____________________________                                    Date_______________";
-
-// A document as its runs: "font size style alignment|text".
-std::vector<std::string> Runs(const RichText& box) {
-  std::vector<std::string> runs;
-  for (const auto& paragraph : box.Paragraphs()) {
-    for (const auto& run : box.Runs(paragraph)) {
-      const CharFormat& format = *run.format;
-      std::string line = format.font + " " + std::to_string(format.size) + " ";
-      line += format.bold ? 'b' : '-';
-      line += format.italic ? 'i' : '-';
-      line += format.underline ? 'u' : '-';
-      line += std::string(" ") + "lrc"[static_cast<int>(paragraph.alignment)] + "|";
-      for (int i = run.start; i < run.start + run.length; ++i) {
-        line += static_cast<char>(box.CharacterAt(i));
-      }
-      runs.push_back(line);
-    }
-  }
-  return runs;
-}
 
 class StudyGuideTest : public Teacher {
  protected:
