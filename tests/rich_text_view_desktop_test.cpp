@@ -52,6 +52,9 @@ class QuietPlatform : public Platform {
   Size ScreenSize() const override { return {15360, 11520}; }
   std::vector<std::string> ScreenFonts() const override { return {}; }
   Milliseconds Now() const override { return 0; }
+  void Pause(Milliseconds) override {}
+  FormPicture PictureOf(Form&) override { return {}; }
+  std::unique_ptr<PrinterPages> StartPages() override { return nullptr; }
   void FatalError(int number, std::string_view text) override {
     ADD_FAILURE() << number << " " << text;
   }

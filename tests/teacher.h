@@ -4,12 +4,15 @@
 
 #include <deque>
 #include <filesystem>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "program/screens.h"
 #include "tests/temp_folder.h"
 #include "toolkit/files.h"
+#include "walk/form_sketch.h"
+#include "walk/walk_pages.h"
 #include "worksheet/worksheet_form.h"
 
 namespace brindlepage {
@@ -49,6 +52,14 @@ class NotingPlatform : public Platform {
     return {"Arial", "Courier New", "Times New Roman"};
   }
   Milliseconds Now() const override { return clock; }
+  void Pause(Milliseconds time) override { log.push_back("pause " + std::to_string(time)); }
+  FormPicture PictureOf(Form& form) override {
+    events.push_back("photographed " + form.Name());
+    return walk::SketchOf(form);
+  }
+  std::unique_ptr<PrinterPages> StartPages() override {
+    return std::make_unique<walk::WalkPages>(printed);
+  }
   void FatalError(int number, std::string_view text) override {
     log.push_back("error " + std::to_string(number) + " " + std::string(text));
   }
@@ -59,6 +70,7 @@ class NotingPlatform : public Platform {
   void ControlChanged(Control&) override { ++changes; }
 
   std::vector<std::string> events;
+  std::ostringstream printed;  // what was drawn on pages
   int changes = 0;
 };
 

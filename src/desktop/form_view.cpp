@@ -104,6 +104,7 @@ FormView::FormView(Form& form, Loop& loop, QWidget* parent)
 void FormView::Detach() {
   for (auto& [control, view] : views_) view->Detach();
   if (menu_bar_ != nullptr) menu_bar_->Detach();
+  if (grid_ != nullptr) grid_->Detach();
   arranged_.clear();
   focus_shown_ = nullptr;
   backdrop_ = nullptr;
@@ -163,6 +164,11 @@ void FormView::LayOutPage() {
   auto* page = new QVBoxLayout(this);
   page->setContentsMargins(0, 0, 0, 0);
   page->setSpacing(0);
+  if (form_->PlacesControls()) {
+    grid_ = new GridView(*form_, this);
+    page->addWidget(grid_);
+    return;
+  }
   if (menu_bar_ != nullptr) page->addWidget(menu_bar_);
   for (const Arrangement& part : form_->arrangement().parts) {
     if (Is<Toolbar>(part.control)) page->addWidget(Find(*part.control)->widget());
@@ -258,6 +264,7 @@ PicturePtr FormView::Background() const {
 void FormView::SyncForm() {
   if (form_ == nullptr) return;
   if (menu_bar_ != nullptr) menu_bar_->Sync();
+  if (grid_ != nullptr) grid_->update();
   const PicturePtr background = Background();
   if (background == background_) return;
   background_ = background;

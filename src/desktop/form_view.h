@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/control_view.h"
+#include "desktop/grid_view.h"
 #include "desktop/loop.h"
 #include "desktop/menu_bar.h"
 #include "desktop/mnemonics.h"
@@ -20,7 +21,8 @@ namespace brindlepage {
 //
 // A form with rich text boxes fills the page with them. Another screen stands on a calm panel in
 // the middle, so that it can be read over its picture. An image named "Image1" outside of the
-// arrangement is the backdrop of the page; the controls then keep to its left, quiet part.
+// arrangement is the backdrop of the page; the controls then keep to its left, quiet part. A form
+// that places its controls itself fills the page with a GridView.
 class FormView : public QWidget {
  public:
   FormView(Form& form, Loop& loop, QWidget* parent = nullptr);
@@ -69,6 +71,7 @@ class FormView : public QWidget {
   std::vector<Control*> arranged_;  // as they stand on the page, which is the Tab key's order
   Control* backdrop_ = nullptr;
   MenuBar* menu_bar_ = nullptr;
+  GridView* grid_ = nullptr;  // of a form that places its controls
   QWidget* backdrop_content_ = nullptr;
   std::map<Control*, std::unique_ptr<ControlView>> views_;
   Control* focus_shown_ = nullptr;

@@ -1,5 +1,6 @@
 #include "desktop/loop.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <chrono>
 
@@ -60,6 +61,11 @@ void Loop::TakeStock() {
   if (!timer_.isActive() || timer_.remainingTime() > wait) {
     timer_.start(std::chrono::milliseconds(wait));
   }
+}
+
+void Loop::LetWindowsPaint() {
+  const TimersHeld held(*this);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void Loop::FireTimers() {

@@ -34,6 +34,12 @@ class Loop : public QObject {
   // after everything that may have run the logic, and before a box opens.
   void TakeStock();
 
+  // Paints what waits to be painted, in the middle of a handler: no timer fires, and what the
+  // teacher does waits.
+  void LetWindowsPaint();
+  // The handler under way is not to be entered anew.
+  bool Held() const { return holds_ > 0; }
+
   // No timer fires while one of these lives.
   class TimersHeld {
    public:

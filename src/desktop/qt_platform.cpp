@@ -1,16 +1,20 @@
 #include "desktop/qt_platform.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QScreen>
+#include <QThread>
 #include <algorithm>
 
 #include "desktop/boxes.h"
 #include "desktop/command_line.h"
+#include "desktop/grid_view.h"
+#include "desktop/qt_pages.h"
 #include "desktop/rich_text_view.h"
 #include "desktop/text.h"
 #include "toolkit/files.h"
@@ -18,6 +22,8 @@
 namespace brindlepage {
 
 namespace {
+
+constexpr Milliseconds kShortestPause = 10;
 
 // "Programs (*.exe)|*.exe|Pictures|*.bmp;*.jpg" as Qt writes it.
 QString ToQtFilter(std::string_view filter) {
@@ -135,6 +141,32 @@ std::vector<std::string> QtPlatform::ScreenFonts() const {
   }
   if (fonts.empty()) fonts.push_back(FromQString(QApplication::font().family()));
   return fonts;
+}
+
+void QtPlatform::Pause(Milliseconds time) {
+  windows_.Flush();
+  const Milliseconds end = Now() + time;
+  loop_.LetWindowsPaint();
+  for (Milliseconds left = end - Now(); left > 0; left = end - Now()) {
+    QThread::msleep(static_cast<unsigned long>(std::min(left, kShortestPause)));
+    loop_.LetWindowsPaint();
+  }
+}
+
+FormPicture QtPlatform::PictureOf(Form& form) {
+  if (form.PlacesControls()) return PictureOfPlacedForm(form);
+  windows_.Flush();
+  FormView* view = windows_.Find(form);
+  const QImage image = view == nullptr ? QImage() : view->grab().toImage();
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  image.save(&file, "png");
+  return {"png", file.data().toStdString(), image.width() * kTwipsPerPixel,
+          image.height() * kTwipsPerPixel};
+}
+
+std::unique_ptr<PrinterPages> QtPlatform::StartPages() {
+  return std::make_unique<QtPages>(Printer());
 }
 
 void QtPlatform::FatalError(int number, std::string_view text) {

@@ -32,6 +32,10 @@ class QtPlatform : public QObject, public Platform {
   Size ScreenSize() const override;
   std::vector<std::string> ScreenFonts() const override;
   Milliseconds Now() const override { return Loop::Now(); }
+  void Pause(Milliseconds time) override;
+
+  FormPicture PictureOf(Form& form) override;
+  std::unique_ptr<PrinterPages> StartPages() override;
 
   void FatalError(int number, std::string_view text) override;
 

@@ -135,6 +135,7 @@ void Windows::Changed(Control& control) {
   if (dynamic_cast<ProgressBar*>(&control) != nullptr && control.OnScreen()) {
     Flush();
     view->widget()->repaint();
+    loop_.LetWindowsPaint();
   }
 }
 
@@ -145,6 +146,8 @@ void Windows::FlushSoon() {
       this,
       [this] {
         Flush();
+        // In the middle of a handler nothing but painting is done.
+        if (loop_.Held()) return;
         TellSizes();
         loop_.TakeStock();
       },

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "toolkit/keys.h"
+#include "toolkit/picture.h"
 #include "toolkit/property.h"
 
 namespace brindlepage {
@@ -57,6 +58,10 @@ class Control : public PropertyOwner {
   // Enter clicks the form's default button and Escape its cancel button, unless the control has
   // a use for the key itself.
   virtual void Press(Key key);
+  // A key that types a character of the code page; most controls have no use for it.
+  virtual void TypeCharacter(char /*character*/) {}
+  // What lies on the clipboard is pasted; most controls have no use for a picture.
+  virtual void Paste(const FormPicture& /*picture*/) {}
 
  private:
   Form& form_;

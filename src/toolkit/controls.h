@@ -26,6 +26,7 @@ class Label : public Control {
   Property<std::string> FontName{*this, "FontName"};  // empty: the style sheet's
   Property<double> FontSize{*this, "FontSize"};       // points; 0: the style sheet's
   Property<int> Alignment{*this, "Alignment"};        // 0 left, 1 right, 2 centred
+  Property<int> BorderStyle{*this, "BorderStyle"};    // 1: a box around it
   const Look look;
 };
 
@@ -65,6 +66,7 @@ class TextBox : public Control {
   // beep; the rest is kept.
   void Type(std::u32string_view text);
   void Press(Key key) override;
+  void TypeCharacter(char character) override { Text = Text() + character; }
 };
 
 class CheckBox : public Control {

@@ -46,6 +46,8 @@ class Form : public PropertyOwner {
   FormKind kind() const { return kind_; }
   Runtime& runtime() const { return runtime_; }
   const Arrangement& arrangement() const { return arrangement_; }
+  // The controls stand where their Left, Top, Width and Height put them, not in an arrangement.
+  bool PlacesControls() const { return places_controls_; }
 
   // In the order of their making. The Tab key follows the arrangement.
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -64,6 +66,8 @@ class Form : public PropertyOwner {
 
  protected:
   void Arrange(Arrangement arrangement);
+  // The form places its labels and images itself; those in front come last.
+  void PlaceControls() { places_controls_ = true; }
   // Left and top so that the form stands in the middle of the screen.
   void CentreForm();
 
@@ -91,6 +95,7 @@ class Form : public PropertyOwner {
   Arrangement arrangement_{Arrangement::Kind::Column};
   std::vector<Control*> controls_;
   Control* focused_ = nullptr;
+  bool places_controls_ = false;
   bool loading_ = false;
   bool show_after_load_ = false;
 };

@@ -43,6 +43,9 @@ class Forms {
   }
 
   Form* Active() const { return active_; }
+  // The form that stands in front of the others, also while another program has the screen. Null
+  // if none is shown.
+  Form* Front() const { return shown_.empty() ? nullptr : shown_.back(); }
   const std::vector<std::unique_ptr<Form>>& Loaded() const { return loaded_; }  // in load order
   bool AnyShown() const { return !shown_.empty(); }
 

@@ -14,6 +14,14 @@ struct Picture {
 };
 using PicturePtr = std::shared_ptr<const Picture>;
 
+// A photograph of a form, as it lies on the clipboard.
+struct FormPicture {
+  std::string format;  // "png"
+  std::string bytes;   // the picture's file
+  int width = 0;       // twips, on paper
+  int height = 0;
+};
+
 // Reads a picture file. Throws RunTimeError 53 if it is missing, 481 "Invalid picture" if its
 // first bytes are those of no known kind of picture, and what files::ReadBytes throws.
 PicturePtr LoadPicture(std::string_view name);

@@ -1,10 +1,14 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "toolkit/geometry.h"
+#include "toolkit/picture.h"
+#include "toolkit/printer_pages.h"
 #include "toolkit/timer.h"
 
 namespace brindlepage {
@@ -14,11 +18,6 @@ class Form;
 
 // At 96 dots to the inch.
 inline constexpr int kTwipsPerPixel = 15;
-
-struct Size {
-  int width = 0;  // twips, 1440 to the inch
-  int height = 0;
-};
 
 enum class BoxButtons { Ok, YesNo, YesNoCancel };
 enum class BoxAnswer { Ok, Yes, No, Cancel };
@@ -63,6 +62,15 @@ class Platform {
   virtual std::vector<std::string> ScreenFonts() const = 0;
   // Milliseconds since some moment in the past.
   virtual Milliseconds Now() const = 0;
+  // Lets that much time pass while the program waits: what has changed is painted, but no timer
+  // fires and nothing that the teacher does is heard.
+  virtual void Pause(Milliseconds time) = 0;
+
+  // The form as it would look on screen, whether it is there or not, as a PNG file. Of a form that
+  // places its controls itself it shows PictureArea (toolkit/placed_form.h).
+  virtual FormPicture PictureOf(Form& form) = 0;
+  // Pages for the printer chosen last. They print when EndDoc is called.
+  virtual std::unique_ptr<PrinterPages> StartPages() = 0;
 
   // The program's end by a fault that nothing handled.
   virtual void FatalError(int number, std::string_view text) = 0;

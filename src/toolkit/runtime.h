@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "toolkit/forms.h"
+#include "toolkit/keyboard.h"
 #include "toolkit/platform.h"
 #include "toolkit/random_source.h"
 #include "toolkit/timer.h"
@@ -29,6 +30,7 @@ class Runtime {
   void UseRandom(RandomSource& random) { random_ = &random; }
   Forms& forms() { return forms_; }
   TimerQueue& timers() { return timers_; }
+  Keyboard& keyboard() { return keyboard_; }
 
   // Runs a handler for the loop, and is the one place that catches its end: the program's end
   // and run-time errors, which end the program with status 1. Handlers nest while a box is open.
@@ -64,6 +66,7 @@ class Runtime {
   RandomSource* random_;
   TimerQueue timers_;
   Forms forms_;
+  Keyboard keyboard_{*this};
   int depth_ = 0;
   bool ended_ = false;
   int status_ = 0;

@@ -5,7 +5,9 @@
 #include <utility>
 
 #include "toolkit/code_page.h"
+#include "walk/form_sketch.h"
 #include "walk/print.h"
+#include "walk/walk_pages.h"
 
 namespace brindlepage::walk {
 
@@ -108,6 +110,12 @@ void WalkPlatform::Beep() { Say(out_, "beep"); }
 
 std::vector<std::string> WalkPlatform::ScreenFonts() const {
   return {"Arial", "Courier New", "Liberation Mono", "Times New Roman", "Verdana"};
+}
+
+FormPicture WalkPlatform::PictureOf(Form& form) { return SketchOf(form); }
+
+std::unique_ptr<PrinterPages> WalkPlatform::StartPages() {
+  return std::make_unique<WalkPages>(out_);
 }
 
 void WalkPlatform::FatalError(int number, std::string_view text) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -41,6 +42,11 @@ class WalkPlatform : public Platform {
   Size ScreenSize() const override { return screen_; }
   std::vector<std::string> ScreenFonts() const override;
   Milliseconds Now() const override { return now_; }
+  void Pause(Milliseconds) override {}
+
+  // A sketch (walk/form_sketch.h).
+  FormPicture PictureOf(Form& form) override;
+  std::unique_ptr<PrinterPages> StartPages() override;
 
   void FatalError(int number, std::string_view text) override;
 

@@ -22,6 +22,11 @@ void RichTextBox::SaveFile(std::string_view path) const {
 
 void RichTextBox::LoadFile(std::string_view path) { ReadRtf(files::ReadBytes(path), *this); }
 
+void RichTextBox::Paste(const FormPicture& picture) {
+  InsertPicture(std::make_shared<RichPicture>(
+      RichPicture{picture.format, picture.bytes, picture.width, picture.height}));
+}
+
 std::optional<brindlepage::Value> RichTextBox::Find(std::string_view property) const {
   using brindlepage::Value;
   const auto selected = [](const auto& value) -> std::optional<Value> {

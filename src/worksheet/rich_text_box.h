@@ -24,6 +24,10 @@ class RichTextBox : public Control, public RichText, private RichTextObserver {
   // The caret or the selection moved. Unset while a document is composed.
   Event<> SelChange;
 
+  // At the caret, in place of the selection.
+  void TypeCharacter(char character) override { SelText({&character, 1}); }
+  void Paste(const FormPicture& picture) override;
+
   std::optional<brindlepage::Value> Find(std::string_view property) const override;
 
  private:

@@ -1,0 +1,176 @@
+#include "desktop/grid_view.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QShowEvent>
+#include <algorithm>
+#include <cmath>
+
+#include "desktop/picture_view.h"
+#include "desktop/rich_text_layout.h"
+#include "desktop/text.h"
+#include "toolkit/controls.h"
+#include "toolkit/placed_form.h"
+
+namespace brindlepage {
+
+namespace {
+
+constexpr double kBorder = 10;            // twips
+constexpr double kUsualHeading = 18;      // points
+constexpr double kMostDotsPerTwip = 0.1;  // on screen: half as large again as the form's own
+constexpr int kRoomAround = 16;           // pixels
+constexpr double kInchesPerMetre = 39.3701;
+
+QColor ToColour(int blue_green_red) {
+  return {blue_green_red & 0xFF, (blue_green_red >> 8) & 0xFF, (blue_green_red >> 16) & 0xFF};
+}
+
+template <class Seen>
+void ForEachLabel(const Form& form, Seen seen) {
+  for (const Control* control : form.Controls()) {
+    const auto* label = dynamic_cast<const Label*>(control);
+    if (label != nullptr && label->Visible) seen(*label);
+  }
+}
+
+// From a form's twips to the dots of what is drawn on.
+struct Scale {
+  Area area;
+  QRectF room;
+
+  double DotsPerTwip() const { return room.width() / std::max(1, area.width); }
+  // Edges fall on whole dots, so that lines are crisp.
+  QRect Dots(const Control& control) const {
+    const double across = DotsPerTwip();
+    const double down = room.height() / std::max(1, area.height);
+    const auto x = [&](int twips) { return qRound(room.left() + (twips - area.left) * across); };
+    const auto y = [&](int twips) { return qRound(room.top() + (twips - area.top) * down); };
+    return QRect(QPoint(x(control.Left), y(control.Top)),
+                 QPoint(x(control.Left + control.Width) - 1, y(control.Top + control.Height) - 1));
+  }
+};
+
+// The background colour, and over it the pictures of the form, each over all of the room.
+void PaintBackground(QPainter& painter, const Form& form, const QRectF& room) {
+  painter.fillRect(room, ToColour(form.BackColor));
+  for (const Control* control : form.Controls()) {
+    const auto* image = dynamic_cast<const Image*>(control);
+    if (image == nullptr || !image->Visible || image->Picture() == nullptr) continue;
+    const QImage picture = DecodePicture(image->Picture);
+    if (picture.isNull()) continue;
+    painter.drawImage(room, picture.scaled(room.size().toSize(), Qt::IgnoreAspectRatio,
+                                           Qt::SmoothTransformation));
+  }
+}
+
+void PaintText(QPainter& painter, const Label& box, const QRect& inside, double dots_per_twip) {
+  const QString text = ToQString(box.Caption);
+  if (text.trimmed().isEmpty()) return;
+  QFont font(ShownFamilies(ToQString(box.FontName)));
+  font.setStyleStrategy(QFont::PreferAntialias);
+  font.setPixelSize(std::max(1, qRound(TextHeight(box) * dots_per_twip)));
+  // A number of three digits is no wider than its box.
+  const double width = QFontMetricsF(font).horizontalAdvance(text);
+  if (width > inside.width()) {
+    font.setPixelSize(std::max(1, static_cast<int>(font.pixelSize() * inside.width() / width)));
+  }
+  painter.setFont(font);
+  painter.setPen(Qt::black);
+  constexpr Qt::Alignment kSides[] = {Qt::AlignLeft | Qt::AlignTop, Qt::AlignRight | Qt::AlignTop,
+                                      Qt::AlignCenter};
+  painter.drawText(inside, static_cast<int>(kSides[qBound(0, box.Alignment(), 2)]), text);
+}
+
+void PaintBox(QPainter& painter, const Label& box, const Scale& scale) {
+  const QRect outside = scale.Dots(box);
+  const int border = std::max(1, qRound(kBorder * scale.DotsPerTwip()));
+  const QRect inside = outside.adjusted(border, border, -border, -border);
+  painter.fillRect(outside, Qt::black);
+  painter.fillRect(inside, ToColour(box.BackColor));
+  PaintText(painter, box, inside, scale.DotsPerTwip());
+}
+
+void PaintBoxes(QPainter& painter, const Form& form, const Scale& scale) {
+  ForEachLabel(form, [&](const Label& label) {
+    if (label.BorderStyle != 0) PaintBox(painter, label, scale);
+  });
+}
+
+// Where something of that shape stands in the middle of the room, as large as fits.
+QRectF Fitted(const Area& area, const QRectF& room) {
+  const double dots = std::min({kMostDotsPerTwip, room.width() / std::max(1, area.width),
+                                room.height() / std::max(1, area.height)});
+  QRectF fitted(QPointF(), QSizeF(area.width, area.height) * std::max(0.0, dots));
+  fitted.moveCenter(room.center());
+  return fitted;
+}
+
+// The labels without a border, above all boxes. What they leave of the room.
+QRectF PaintHeadings(QPainter& painter, const Form& form, QRectF room) {
+  ForEachLabel(form, [&](const Label& label) {
+    if (label.BorderStyle != 0 || label.Caption().empty()) return;
+    QFont font(ShownFamilies(ToQString(label.FontName)));
+    font.setPointSizeF(label.FontSize > 0 ? label.FontSize() : kUsualHeading);
+    painter.setFont(font);
+    QRectF line = room;
+    line.setHeight(QFontMetricsF(font).lineSpacing() * 1.4);
+    // On white, as the boxes are, whatever lies behind.
+    QRectF words =
+        QFontMetricsF(font).boundingRect(line, Qt::AlignCenter, ToQString(label.Caption));
+    painter.fillRect(words.adjusted(-12, -2, 12, 2) & line, ToColour(label.BackColor));
+    painter.setPen(Qt::black);
+    painter.drawText(line, Qt::AlignCenter, ToQString(label.Caption));
+    room.setTop(line.bottom() + kRoomAround / 2.0);
+  });
+  return room;
+}
+
+}  // namespace
+
+FormPicture PictureOfPlacedForm(const Form& form) {
+  constexpr int kTwipsPerDot = kTwipsPerInch / kPictureDotsPerInch;
+  const Area area = PictureArea(form);
+  const Size paper = SizeOnPaper(area);
+  QImage image(std::max(1, paper.width / kTwipsPerDot), std::max(1, paper.height / kTwipsPerDot),
+               QImage::Format_RGB32);
+  const int dots_per_metre = qRound(kPictureDotsPerInch * kInchesPerMetre);
+  image.setDotsPerMeterX(dots_per_metre);
+  image.setDotsPerMeterY(dots_per_metre);
+
+  QPainter painter(&image);
+  PaintBackground(painter, form, image.rect());
+  PaintBoxes(painter, form, {area, image.rect()});
+  painter.end();
+
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  image.save(&file, "png");
+  return {"png", file.data().toStdString(), paper.width, paper.height};
+}
+
+GridView::GridView(const Form& form, QWidget* parent) : QWidget(parent), form_(&form) {
+  setObjectName("GridView");
+  setAccessibleName(ToQString(form.Caption));
+  // Keys go to the form from here.
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void GridView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (form_ == nullptr) return painter.fillRect(rect(), Qt::white);
+  PaintBackground(painter, *form_, rect());
+  const QRectF room = PaintHeadings(
+      painter, *form_, rect().adjusted(kRoomAround, kRoomAround, -kRoomAround, -kRoomAround));
+  const Area area = PictureArea(*form_);
+  PaintBoxes(painter, *form_, {area, Fitted(area, room)});
+}
+
+void GridView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  setFocus();
+}
+
+}  // namespace brindlepage
