@@ -10,6 +10,8 @@ template <class T>
 Value ToValue(const T& variable) {
   if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, std::string>) {
     return Value(variable);
+  } else if constexpr (std::is_floating_point_v<T>) {
+    return Value(double{variable});
   } else {
     return Value(static_cast<long long>(variable));
   }

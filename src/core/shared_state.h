@@ -83,8 +83,8 @@ struct SharedState {
   bool OrphansFlag = false;
   bool RemakeRequest = false;
   bool CaptureRequest = false;
-  int AutoRows = 0;
-  int AutoCols = 0;
+  double AutoRows = 0;
+  double AutoCols = 0;
 
   // The list editors.
   std::string NewListName;

@@ -6,6 +6,14 @@
 #include "core/just_for_fun.h"
 #include "core/pick_words.h"
 #include "core/title.h"
+#include "crossword/cross_option1.h"
+#include "crossword/cross_option2.h"
+#include "crossword/cross_print.h"
+#include "crossword/cross_word.h"
+#include "crossword/cross_word_fill.h"
+#include "crossword/crossword_worksheet.h"
+#include "crossword/new_cross1.h"
+#include "crossword/please_wait.h"
 #include "program/unbuilt_form.h"
 #include "quiz/quiz_form.h"
 #include "quiz/quiz_options.h"
@@ -51,18 +59,18 @@ constexpr ScreenEntry kScreens[] = {
     {Screen::CodeForm, "CodeForm", MakeUnbuilt},
     {Screen::WordSearchForm, "WordSearchForm", MakeUnbuilt},
     {Screen::RiddleForm, "RiddleForm", MakeUnbuilt},
-    {Screen::CrosswordWorksheet, "CrosswordWorksheet", MakeUnbuilt},
+    {Screen::CrosswordWorksheet, "CrosswordWorksheet", Make<CrosswordWorksheet>},
     {Screen::StudyGuideForm, "StudyGuideForm", Make<StudyGuideForm>},
     {Screen::ScrambleOption1, "ScrambleOption1", MakeUnbuilt},
     {Screen::ChooseRiddle, "ChooseRiddle", MakeUnbuilt},
     {Screen::RiddleOption1, "RiddleOption1", MakeUnbuilt},
-    {Screen::CrossOption1, "CrossOption1", MakeUnbuilt},
-    {Screen::CrossOption2, "CrossOption2", MakeUnbuilt},
-    {Screen::PleaseWait, "PleaseWait", MakeUnbuilt},
-    {Screen::CrossPrint, "CrossPrint", MakeUnbuilt},
-    {Screen::CrossWord, "CrossWord", MakeUnbuilt},
-    {Screen::NewCross1, "NewCross1", MakeUnbuilt},
-    {Screen::CrossWordFill, "CrossWordFill", MakeUnbuilt},
+    {Screen::CrossOption1, "CrossOption1", Make<CrossOption1>},
+    {Screen::CrossOption2, "CrossOption2", Make<CrossOption2>},
+    {Screen::PleaseWait, "PleaseWait", Make<PleaseWait>},
+    {Screen::CrossPrint, "CrossPrint", Make<CrossPrint>},
+    {Screen::CrossWord, "CrossWord", Make<CrossWord>},
+    {Screen::NewCross1, "NewCross1", Make<NewCross1>},
+    {Screen::CrossWordFill, "CrossWordFill", Make<CrossWordFill>},
     {Screen::OpenWorksheet, "OpenWorksheet", MakeUnbuilt},
     {Screen::AddPic, "AddPic", MakeUnbuilt},
     {Screen::CreateList, "CreateList", MakeUnbuilt},
