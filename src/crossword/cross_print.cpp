@@ -44,12 +44,13 @@ CrossPrint::CrossPrint(Program& owner)
   Timer1.Tick = [this] { Tick(); };
 
   const auto option = [this](int index) {
-    return Row(Coloroption(index), Fill(ColorLabel(index)));
+    return Row(Coloroption(index), ColorLabel(index), Spring());
   };
   Arrange(Column(WordsUsedLabel,
                  Framed(Frame1, Column(Grid(4, option(0), option(1), option(2), option(3),
                                             option(4), option(5), option(6), option(7)),
-                                       Row(option(kGraphic), Command4, Spring()))),
+                                       Row(Coloroption(kGraphic), ColorLabel(kGraphic), Gap(),
+                                           Command4, Spring()))),
                  Row(AutoS, Label2, Spring()), Label1, Spring(),
                  Row(Command3, Spring(), Command1, Command6, Command5)));
 }
