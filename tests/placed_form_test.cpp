@@ -51,10 +51,10 @@ TEST_F(PlacedForm, OnPaperAPictureFitsTheColumnAndThePage) {
 }
 
 TEST_F(PlacedForm, LettersGrowWithBoxesThatAreLargerThanUsual) {
-  form.Put(0, {0, 0, 380, 380});
+  form.Put(0, {0, 0, 315, 315});
   form.Box(0).FontSize = 6;
   EXPECT_EQ(TextHeight(form.Box(0)), 120);
-  form.Put(0, {0, 0, 760, 800});
+  form.Put(0, {0, 0, 630, 800});
   EXPECT_EQ(TextHeight(form.Box(0)), 240);
   form.Put(0, {0, 0, 200, 200});
   EXPECT_EQ(TextHeight(form.Box(0)), 120);
