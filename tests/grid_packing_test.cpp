@@ -55,6 +55,7 @@ TEST_F(GridPacking, AnEmptyGridIsLeftWhereItIs) {
   PackGrid(grid, {391, 395});
   EXPECT_EQ(grid.SquareAt(37, 29).Left, 10);
   EXPECT_EQ(grid.LastVisibleSquare(), 0);
+  EXPECT_EQ(AutoSquareSize(kScreen, MeasureGrid(grid)), (Size{15230, 11440}));
 }
 
 TEST_F(GridPacking, AutosizeCountsFromTheFirstColumnAndRowAndNotFromThePackedCorner) {
