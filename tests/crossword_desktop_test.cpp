@@ -55,8 +55,11 @@ class CrosswordDesktop : public testing::Test {
   void Click(Screen id, const char* name, int index = -1) {
     Form* form = forms().Find(id);
     ASSERT_NE(form, nullptr) << name;
+    // The screen comes up as soon as the handler that showed it is done.
+    ASSERT_TRUE(QTest::qWaitFor([&] { return desktop_->windows().Find(*form) != nullptr; }));
     ControlView* view = desktop_->windows().Find(*form)->Find(*form->FindControl(name, index));
     ASSERT_NE(view, nullptr) << name;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return view->widget()->isVisible(); })) << name;
     QTest::mouseClick(view->widget(), Qt::LeftButton);
     QTest::qWait(30);
   }
@@ -220,9 +223,9 @@ TEST_F(CrosswordDesktop, APuzzleIsMadePreviewedAndTurnedIntoAWorksheetByMouseAlo
   MakePuzzle();
   Click(Screen::CrossPrint, "Command1");
   ASSERT_TRUE(Active(Screen::CrossWord));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return GridOf(Screen::CrossWord) != nullptr; }));
   GridView* preview = GridOf(Screen::CrossWord);
-  ASSERT_NE(preview, nullptr);
-  EXPECT_TRUE(preview->isVisible());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return preview->isVisible(); }));
   QTest::mouseClick(preview, Qt::LeftButton);
   QTest::qWait(30);
   EXPECT_TRUE(Active(Screen::CrossPrint));
@@ -316,7 +319,8 @@ TEST_F(CrosswordDesktop, TheQuickPrintWritesAnUprightPage) {
   const QByteArray pdf = FileBytes(file);
   EXPECT_TRUE(pdf.startsWith("%PDF"));
   const auto box = pdf.indexOf("/MediaBox [");
-  EXPECT_TRUE(pdf.mid(box, 40).startsWith("/MediaBox [0 0 612.0")) << pdf.mid(box, 40).toStdString();
+  EXPECT_TRUE(pdf.mid(box, 40).startsWith("/MediaBox [0 0 612.0"))
+      << pdf.mid(box, 40).toStdString();
   EXPECT_GE(pdf.count("/Type /Page\n"), 1);
 }
 
