@@ -113,6 +113,14 @@ Step Click(std::string form, std::string name, int index = -1) {
   };
 }
 
+// A key on the form itself.
+Step PressKey() {
+  return [=](Photographer& photographer) {
+    Forms& forms = photographer.desktop().program().forms();
+    photographer.desktop().loop().Act(*forms.Active(), [&] { forms.Key(*forms.Active()); });
+  };
+}
+
 Step Tool(std::string form, std::string caption) {
   return [=](Photographer& photographer) {
     auto& toolbar = FindControl<Toolbar>(photographer, form, "Toolbar1");
@@ -148,6 +156,14 @@ Step DoubleClickNothing(std::string form, std::string name) {
   return [=](Photographer& photographer) {
     auto& list = FindControl<ListBox>(photographer, form, name);
     photographer.desktop().loop().Act(list, [&] { list.DoubleClickRow(-1); });
+  };
+}
+
+// Long enough for timers.
+Step Wait(int milliseconds) {
+  return [=](Photographer& photographer) {
+    QElapsedTimer clock;
+    for (clock.start(); clock.elapsed() < milliseconds;) photographer.TakeNewForms();
   };
 }
 
@@ -223,6 +239,29 @@ std::vector<Walk> Walks() {
        Click("DeleteList", "Command1"), Photo("DeleteList-asking")},
       {Tool("Title", "Opts"), Click("ProgramOptions", "Command5")},
       {Tool("Title", "Opts"), Click("ProgramOptions", "Command3")},
+      // A crossword, coloured, up to its worksheet and key.
+      {Click("Title", "Command1", 1),
+       Select("ChooseList", "TheLists", 2),
+       Click("ChooseList", "Command1"),
+       Click("QuizOptions5", "Command1"),
+       Click("CrossOption1", "Command1"),
+       Click("CrossOption2", "Command2"),
+       Click("PickWords", "ChooseRandom"),
+       Click("PickWords", "Command2"),
+       Wait(1200),
+       Photo("CrossPrint"),
+       Click("CrossPrint", "Command1"),
+       Photo("CrossWord-preview"),
+       PressKey(),
+       Click("CrossPrint", "ColorLabel", 8),
+       Photo("CrossPrint-graphic"),
+       Click("CrossPrint", "ColorLabel", 3),
+       Click("CrossPrint", "AutoS"),
+       Click("CrossPrint", "Command5"),
+       Wait(6000),
+       Photo("CrosswordWorksheet-done"),
+       Tool("CrosswordWorksheet", "Key"),
+       Photo("CrosswordWorksheet-key")},
   };
 }
 

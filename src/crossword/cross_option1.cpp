@@ -9,7 +9,7 @@ CrossOption1::CrossOption1(Program& owner)
   Command1.Click = [this] { Continue(); };
   Command2.Click = [this] { StepTo(Screen::QuizOptions5); };
 
-  Arrange(Column(Row(Image1, Gap(), Fill(Label1)), Gap(), Row(Label2, Fill(QualityBar), Label3),
+  Arrange(Column(Row(Image1, Gap(), Column(Label1)), Gap(), Row(Label2, QualityBar, Label3),
                  Spring(), Row(Command2, Spring(), Command1)));
 }
 

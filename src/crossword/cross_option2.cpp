@@ -8,11 +8,12 @@ CrossOption2::CrossOption2(Program& owner)
     : ProgramForm(owner, Screen::CrossOption2, "CrossOption2", "Crossword Option") {
   Command1.Default = true;
   Command3.Cancel = true;
+  Command1.SetFocus();
   Command1.Click = [this] { MakeBestPuzzle(); };
   Command2.Click = [this] { LetTeacherChoose(); };
   Command3.Click = [this] { StepTo(Screen::CrossOption1); };
 
-  Arrange(Column(Row(Image1, Gap(), Fill(Label1)), Spring(),
+  Arrange(Column(Row(Image1, Gap(), Column(Label1)), Spring(),
                  Row(Command3, Spring(), Command2, Command1)));
 }
 

@@ -44,12 +44,13 @@ CrossPrint::CrossPrint(Program& owner)
   Timer1.Tick = [this] { Tick(); };
 
   const auto option = [this](int index) {
-    return Row(Coloroption(index), Fill(ColorLabel(index)));
+    return Row(Coloroption(index), ColorLabel(index), Spring());
   };
   Arrange(Column(WordsUsedLabel,
                  Framed(Frame1, Column(Grid(4, option(0), option(1), option(2), option(3),
                                             option(4), option(5), option(6), option(7)),
-                                       Row(option(kGraphic), Command4, Spring()))),
+                                       Row(Coloroption(kGraphic), ColorLabel(kGraphic), Gap(),
+                                           Command4, Spring()))),
                  Row(AutoS, Label2, Spring()), Label1, Spring(),
                  Row(Command3, Spring(), Command1, Command6, Command5)));
 }
@@ -86,9 +87,7 @@ void CrossPrint::FillPreviewGrid() {
   forms().Get<CrossWord>(Screen::CrossWord).FillPreviewGrid(grid_);
 }
 
-void CrossPrint::FillNumberedGrid() {
-  forms().Get<NewCross1>(Screen::NewCross1).ShowNumbers(grid_);
-}
+void CrossPrint::FillNumberedGrid() { NumberedGrid().ShowNumbers(grid_); }
 
 void CrossPrint::FillClues() {
   const ClueLists clues = BuildClueLists(shared, grid_);
@@ -229,16 +228,19 @@ void CrossPrint::QuickPrint() {
 }
 
 CrossWord& CrossPrint::SolvedGrid() {
-  if (forms().Find(Screen::CrossWord) == nullptr) {
-    forms().Get<CrossWord>(Screen::CrossWord).TitleLabel.Caption = shared.WorksheetTitle;
-    FillPreviewGrid();
+  const bool closed = forms().Find(Screen::CrossWord) == nullptr;
+  auto& solved = forms().Get<CrossWord>(Screen::CrossWord);
+  if (closed) {
+    const NewCross1& numbered = NumberedGrid();
+    solved.TitleLabel.Caption = shared.WorksheetTitle;
+    solved.FillPreviewGrid(grid_);
+    solved.BackColor = numbered.BackColor;
+    solved.CrossImage.Picture = numbered.CrossImage.Picture;
+    solved.CrossImage.Visible = numbered.CrossImage.Visible;
   }
-  return forms().Get<CrossWord>(Screen::CrossWord);
+  return solved;
 }
 
-NewCross1& CrossPrint::NumberedGrid() {
-  if (forms().Find(Screen::NewCross1) == nullptr) FillNumberedGrid();
-  return forms().Get<NewCross1>(Screen::NewCross1);
-}
+NewCross1& CrossPrint::NumberedGrid() { return forms().Get<NewCross1>(Screen::NewCross1); }
 
 }  // namespace brindlepage

@@ -73,7 +73,7 @@ class CrossPrint : public ProgramForm {
 
   void QuickPrint();
 
-  // The grid forms, filled anew if their frames have been closed.
+  // Filled anew if its frame has been closed.
   CrossWord& SolvedGrid();
   NewCross1& NumberedGrid();
 

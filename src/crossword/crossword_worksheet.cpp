@@ -159,6 +159,7 @@ void CrosswordWorksheet::PasteSolvedGrid() {
   key.SelStart(1);
   ShowWorksheetView();
   QuizBox.SelStart(0);
+  QuizBox.SetFocus();
 }
 
 void CrosswordWorksheet::TakeInput(bool taken) {

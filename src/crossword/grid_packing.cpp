@@ -1,5 +1,6 @@
 #include "crossword/grid_packing.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace brindlepage {
@@ -85,8 +86,10 @@ AutoSize MeasureGrid(GridForm& grid) {
 
 Size AutoSquareSize(Size screen, const AutoSize& used) {
   constexpr int kAround = 30;
-  return {static_cast<int>(std::floor((screen.width - 100) / used.cols)) - kAround,
-          static_cast<int>(std::floor((screen.height - 50) / used.rows)) - kAround};
+  const auto share = [](int room, double count) {
+    return static_cast<int>(std::floor(room / std::max(1.0, count))) - kAround;
+  };
+  return {share(screen.width - 100, used.cols), share(screen.height - 50, used.rows)};
 }
 
 }  // namespace brindlepage

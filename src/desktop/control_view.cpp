@@ -544,7 +544,7 @@ class ScrollBarView : public ViewOf<HScrollBar> {
  public:
   ScrollBarView(HScrollBar& bar, const ViewSetting& setting)
       : ViewOf(setting.loop, bar, new QSlider(Qt::Horizontal, setting.parent)) {
-    slider().setMinimumWidth(160);
+    slider().setMinimumSize(160, 24);
     connect(&slider(), &QSlider::valueChanged, this,
             [this](int value) { Act([value](HScrollBar& b) { b.Move(value); }); });
   }

@@ -17,7 +17,8 @@ namespace brindlepage {
 
 namespace {
 
-constexpr double kBorder = 10;            // twips
+constexpr double kBorder = 15;            // twips
+constexpr double kGap = 10;               // between the boxes of a packed grid
 constexpr double kUsualHeading = 18;      // points
 constexpr double kMostDotsPerTwip = 0.1;  // on screen: half as large again as the form's own
 constexpr int kRoomAround = 16;           // pixels
@@ -35,34 +36,41 @@ void ForEachLabel(const Form& form, Seen seen) {
   }
 }
 
+template <class Seen>
+void ForEachPicture(const Form& form, Seen seen) {
+  for (const Control* control : form.Controls()) {
+    const auto* image = dynamic_cast<const Image*>(control);
+    if (image != nullptr && image->Visible && image->Picture() != nullptr) seen(*image);
+  }
+}
+
 // From a form's twips to the dots of what is drawn on.
 struct Scale {
   Area area;
   QRectF room;
 
   double DotsPerTwip() const { return room.width() / std::max(1, area.width); }
-  // Edges fall on whole dots, so that lines are crisp.
-  QRect Dots(const Control& control) const {
+  // The control and so much around it. Edges fall on whole dots, so that lines are crisp.
+  QRect Dots(const Control& control, double around) const {
     const double across = DotsPerTwip();
     const double down = room.height() / std::max(1, area.height);
-    const auto x = [&](int twips) { return qRound(room.left() + (twips - area.left) * across); };
-    const auto y = [&](int twips) { return qRound(room.top() + (twips - area.top) * down); };
-    return QRect(QPoint(x(control.Left), y(control.Top)),
-                 QPoint(x(control.Left + control.Width) - 1, y(control.Top + control.Height) - 1));
+    const auto x = [&](double twips) { return qRound(room.left() + (twips - area.left) * across); };
+    const auto y = [&](double twips) { return qRound(room.top() + (twips - area.top) * down); };
+    return QRect(QPoint(x(control.Left - around), y(control.Top - around)),
+                 QPoint(x(control.Left + control.Width + around) - 1,
+                        y(control.Top + control.Height + around) - 1));
   }
 };
 
 // The background colour, and over it the pictures of the form, each over all of the room.
 void PaintBackground(QPainter& painter, const Form& form, const QRectF& room) {
   painter.fillRect(room, ToColour(form.BackColor));
-  for (const Control* control : form.Controls()) {
-    const auto* image = dynamic_cast<const Image*>(control);
-    if (image == nullptr || !image->Visible || image->Picture() == nullptr) continue;
-    const QImage picture = DecodePicture(image->Picture);
-    if (picture.isNull()) continue;
+  ForEachPicture(form, [&](const Image& image) {
+    const QImage picture = DecodePicture(image.Picture);
+    if (picture.isNull()) return;
     painter.drawImage(room, picture.scaled(room.size().toSize(), Qt::IgnoreAspectRatio,
                                            Qt::SmoothTransformation));
-  }
+  });
 }
 
 void PaintText(QPainter& painter, const Label& box, const QRect& inside, double dots_per_twip) {
@@ -83,8 +91,8 @@ void PaintText(QPainter& painter, const Label& box, const QRect& inside, double 
   painter.drawText(inside, static_cast<int>(kSides[qBound(0, box.Alignment(), 2)]), text);
 }
 
-void PaintBox(QPainter& painter, const Label& box, const Scale& scale) {
-  const QRect outside = scale.Dots(box);
+void PaintBox(QPainter& painter, const Label& box, const Scale& scale, double around) {
+  const QRect outside = scale.Dots(box, around);
   const int border = std::max(1, qRound(kBorder * scale.DotsPerTwip()));
   const QRect inside = outside.adjusted(border, border, -border, -border);
   painter.fillRect(outside, Qt::black);
@@ -92,9 +100,18 @@ void PaintBox(QPainter& painter, const Label& box, const Scale& scale) {
   PaintText(painter, box, inside, scale.DotsPerTwip());
 }
 
+// Where no colour shows between the boxes, neighbours share a line.
+double RoomAround(const Form& form) {
+  constexpr int kWhite = 0xFFFFFF;
+  bool plain = form.BackColor == kWhite;
+  ForEachPicture(form, [&](const Image&) { plain = false; });
+  return plain ? (kGap + kBorder) / 2 : 0;
+}
+
 void PaintBoxes(QPainter& painter, const Form& form, const Scale& scale) {
+  const double around = RoomAround(form);
   ForEachLabel(form, [&](const Label& label) {
-    if (label.BorderStyle != 0) PaintBox(painter, label, scale);
+    if (label.BorderStyle != 0) PaintBox(painter, label, scale, around);
   });
 }
 

@@ -8,7 +8,7 @@ class QPrinter;
 
 namespace brindlepage {
 
-// Pages on a printer, upright and in colour. Pages that are not ended are taken back.
+// Pages on a printer, upright and in colour.
 class QtPages : public PrinterPages {
  public:
   explicit QtPages(QPrinter& printer);

@@ -143,7 +143,14 @@ void RichTextPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDo
   if (image->isNull()) {
     DrawPlaceholder(*painter, rect);
   } else {
-    painter->drawImage(rect, *image);
+    const QSize dots = painter->deviceTransform().mapRect(rect).size().toSize();
+    const bool crowded = 2 * dots.width() < image->width() && !dots.isEmpty();
+    QImage& reduced = entry->second.reduced;
+    // Fine lines would get lost if dots were left out.
+    if (crowded && reduced.size() != dots) {
+      reduced = image->scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    painter->drawImage(rect, crowded ? reduced : *image);
   }
   painter->restore();
 }

@@ -46,6 +46,7 @@ class RichTextPictures : public QObject, public QTextObjectInterface {
   struct Shown {
     std::shared_ptr<const RichPicture> picture;
     std::optional<QImage> image;  // decoded when first drawn
+    QImage reduced{};             // as it was drawn last on a screen of fewer dots
   };
   std::map<std::uint32_t, Shown> shown_;
 };

@@ -277,6 +277,8 @@ void RichTextView::ShowCaret() {
   if (positions_.ToQt(start) != shown.selectionStart() ||
       positions_.ToQt(end) != shown.selectionEnd()) {
     sheet_->setTextCursor(Select(start, end));
+    // The start of a sheet shows with the paper's edge.
+    if (start == 0 && end == 0) ScrollToTop();
   }
   ShowCaretFormat();
 }

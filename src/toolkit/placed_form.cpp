@@ -14,7 +14,7 @@ constexpr int kMargin = 100;                        // twips
 constexpr Size kRoom = {10800, 9 * kTwipsPerInch};  // on paper
 
 constexpr double kTwipsPerPoint = 20;
-constexpr double kUsualBox = 380;  // twips, on a screen of 1024 by 768
+constexpr double kUsualBox = 315;  // twips
 constexpr double kUsualPoints = 10;
 
 }  // namespace

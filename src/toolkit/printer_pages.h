@@ -31,7 +31,7 @@ class PrinterPages {
   // As large as the picture is on paper.
   virtual void DrawPicture(const FormPicture& picture, int left, int top) = 0;
   virtual void NewPage() = 0;
-  // Sends the pages to the printer. Pages that go without it are not printed.
+  // Sends the pages to the printer. Pages that go without it may be lost.
   virtual void EndDoc() = 0;
 };
 
