@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+#include "desktop/decode_picture.h"
 #include "desktop/icons.h"
 
 namespace brindlepage {
@@ -12,12 +13,6 @@ namespace {
 constexpr int kIconSide = 64;  // pixels
 constexpr QSize kUsualPicture{360, 270};
 }  // namespace
-
-QImage DecodePicture(const PicturePtr& picture) {
-  if (picture == nullptr) return {};
-  return QImage::fromData(reinterpret_cast<const uchar*>(picture->bytes.data()),
-                          static_cast<int>(picture->bytes.size()));
-}
 
 QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio) {
   if (picture == nullptr || size.isEmpty()) return {};
@@ -29,7 +24,7 @@ QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_rati
                           .arg(wanted.height());
   QPixmap covering;
   if (QPixmapCache::find(key, &covering)) return covering;
-  const QImage image = DecodePicture(picture);
+  const QImage image = DecodePicture(picture->bytes);
   if (image.isNull()) return {};
   const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
   const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
@@ -48,7 +43,7 @@ PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), 
 void PictureView::Show(const PicturePtr& picture) {
   if (picture == picture_) return;
   picture_ = picture;
-  image_ = DecodePicture(picture);
+  image_ = picture == nullptr ? QImage() : DecodePicture(picture->bytes);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   updateGeometry();
   update();

@@ -9,9 +9,6 @@
 
 namespace brindlepage {
 
-// The picture decoded; a null image where there is none or its kind can't be shown here.
-QImage DecodePicture(const PicturePtr& picture);
-
 // The picture as it covers a page of that size, its right and lower edges showing. Kept for the
 // next page with the same picture.
 QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio);
