@@ -128,6 +128,13 @@ Step Select(std::string form, std::string name, int row) {
   };
 }
 
+Step Type(std::string form, std::string name, std::string text) {
+  return [=](Photographer& photographer) {
+    auto& box = FindControl<TextBox>(photographer, form, name);
+    photographer.desktop().loop().Act(box, [&] { box.Text = text; });
+  };
+}
+
 Step Mark(std::string form, std::string name, std::vector<int> rows) {
   return [=](Photographer& photographer) {
     auto& list = FindControl<ListBox>(photographer, form, name);
@@ -195,6 +202,26 @@ std::vector<Walk> Walks() {
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
        Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"),
        Click("QuizOptions", "Command1")},
+      // A new list.
+      {Tool("Title", "Create"), Type("CreateList", "NewName", "Volcanoes"),
+       Click("CreateList", "Command2"), Type("MakeNewList", "TheWord", "lava"),
+       Type("MakeNewList", "TheMeaning", "melted rock that has come out"),
+       Tool("MakeNewList", "Add Word"), Type("MakeNewList", "TheWord", "ash"),
+       Type("MakeNewList", "TheMeaning", "grey dust"), Tool("MakeNewList", "Add Word"),
+       Type("MakeNewList", "TheWord", "crater"), Photo("MakeNewList-words"),
+       Tool("MakeNewList", "Foreign")},
+      // A list under change.
+      {Tool("Title", "Edit"), Select("EditChooseList", "TheLists", 3),
+       Photo("EditChooseList-chosen"), Click("EditChooseList", "Command1"),
+       Select("EditList", "WordList", 2), Photo("EditList-selected"), Tool("EditList", "Add Word"),
+       Click("AddWord", "Command3"), Photo("AddWord-letters"), Click("AddWord", "Command2"),
+       Tool("EditList", "Edit Word"), Click("EditWord", "Command2"),
+       Tool("EditList", "Rename List")},
+      // A list that goes, and the options.
+      {Tool("Title", "Delete"), Select("DeleteList", "TheLists", 1),
+       Click("DeleteList", "Command1"), Photo("DeleteList-asking")},
+      {Tool("Title", "Opts"), Click("ProgramOptions", "Command5")},
+      {Tool("Title", "Opts"), Click("ProgramOptions", "Command3")},
   };
 }
 

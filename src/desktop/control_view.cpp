@@ -47,7 +47,7 @@ void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value) 
   widget.style()->polish(&widget);
 }
 
-// The mouse on a widget that has no clicks of its own.
+// The mouse on a widget that has no clicks of its own, and the keys on one that takes them.
 class Clicks : public QObject {
  public:
   Clicks(QWidget* widget, std::function<void()> click, std::function<void()> double_click)
@@ -57,6 +57,12 @@ class Clicks : public QObject {
 
   bool eventFilter(QObject*, QEvent* event) override {
     const auto type = event->type();
+    if (type == QEvent::KeyPress) {
+      const int key = static_cast<QKeyEvent*>(event)->key();
+      const bool clicks = key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter;
+      if (clicks) click_();
+      return clicks;
+    }
     if (type != QEvent::MouseButtonPress && type != QEvent::MouseButtonDblClick) return false;
     if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return false;
     type == QEvent::MouseButtonPress ? click_() : double_click_();
@@ -83,6 +89,11 @@ class LabelView : public ViewOf<Label> {
     if (partner_ != nullptr) text().setBuddy(partner_);
     if (label.Click) {
       text().setCursor(Qt::PointingHandCursor);
+      // One that stands for nothing else can be reached by the keys.
+      if (partner_ == nullptr && label.Index() < 0) {
+        text().setProperty("look", "link");
+        text().setFocusPolicy(Qt::TabFocus);
+      }
       new Clicks(
           &text(), [this] { Act([](Label& l) { l.UserClick(); }); },
           [this] { Act([](Label& l) { l.UserClick(); }); });

@@ -281,6 +281,8 @@ void FormView::SyncFocus() {
   Control* focused = form_->Focused();
   if (focused == nullptr && !focus_set_) focused = FirstField();
   if (focused == nullptr) return;
+  // The page may have given the keys to its first field by itself.
+  form_->Focus(*focused);
   ControlView* view = Find(*focused);
   if (view == nullptr || !view->widget()->isVisibleTo(this)) return;
   QWidget* now = focusWidget();

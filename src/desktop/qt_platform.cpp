@@ -19,6 +19,7 @@
 #include "desktop/command_line.h"
 #include "desktop/decode_picture.h"
 #include "desktop/grid_view.h"
+#include "desktop/program_dialog.h"
 #include "desktop/qt_pages.h"
 #include "desktop/rich_text_view.h"
 #include "desktop/text.h"
@@ -154,8 +155,12 @@ std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::s
                                                   std::string_view folder) {
   QFileDialog dialog(windows_.Front(), ToQString(title));
   dialog.setFileMode(QFileDialog::ExistingFile);
-  if (!filter.empty()) dialog.setNameFilter(ToQtFilter(filter));
-  if (!folder.empty()) dialog.setDirectory(NativeName(folder));
+  if (AsksForPrograms(filter)) {
+    OfferPrograms(dialog);
+  } else {
+    if (!filter.empty()) dialog.setNameFilter(ToQtFilter(filter));
+    if (!folder.empty()) dialog.setDirectory(NativeName(folder));
+  }
   if (!Run(dialog) || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return FromQString(dialog.selectedFiles().front());
 }

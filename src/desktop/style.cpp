@@ -188,6 +188,8 @@ QToolTip { background: @ink; color: @sheet; border: none; padding: 5px 8px; }
 
 QLabel[look="heading"] { font-size: @headingpt; font-weight: 600; }
 QLabel[look="note"] { color: @softink; }
+QLabel[look="link"] { color: @accent; text-decoration: underline; padding: 2px; }
+QLabel[look="link"]:focus { border: 1px dotted @softink; padding: 1px; }
 QLabel[look="warning"] { color: @accent; font-weight: 600; }
 QWidget[backdrop="true"] QLabel[look="heading"] { font-size: @titlept; font-weight: 700; }
 QWidget[backdrop="true"] QLabel[look="note"] { font-size: @subtitlept; }
@@ -240,6 +242,7 @@ QProgressBar {
 }
 QProgressBar::chunk { background: @softink; border-radius: 6px; }
 
+QSlider:horizontal { min-height: 24px; }
 QSlider::groove:horizontal { height: 6px; border-radius: 3px; background: @mist; }
 QSlider::sub-page:horizontal { background: @softink; border-radius: 3px; }
 QSlider::handle:horizontal {

@@ -248,6 +248,9 @@ void Windows::ShowBoxes() {
 }
 
 void Windows::ShowChanges() {
+  // What is hidden passes the keys on to its neighbour, which counts only if the program has not
+  // given them to another.
+  showing_changes_ = true;
   // Showing one may change another.
   while (!changed_controls_.empty() || !changed_forms_.empty()) {
     const auto controls = std::exchange(changed_controls_, {});
@@ -257,6 +260,10 @@ void Windows::ShowChanges() {
       if (FormView* view = Find(*form)) view->SyncForm();
     }
   }
+  showing_changes_ = false;
+  Form* active = loop_.runtime().forms().Active();
+  Control* holder = active == nullptr ? nullptr : active->Focused();
+  if (holder != nullptr && !holder->CanAct()) FocusMoved(QApplication::focusWidget());
 }
 
 void Windows::ShowFocus() {
@@ -309,7 +316,7 @@ void Windows::WindowClosed(FormWindow& window) {
 
 void Windows::FocusMoved(QWidget* now) {
   // A page that is turned to has a field of its own choice.
-  if (turning_) return;
+  if (turning_ || showing_changes_) return;
   for (const auto& [form, view] : views_) {
     if (now == nullptr || !view->isAncestorOf(now) || !form->Visible) continue;
     Control* holder = view->Holder(now);

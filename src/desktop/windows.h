@@ -90,6 +90,7 @@ class Windows : public QObject {
   QPointer<QWidget> activating_;  // asked for, and not yet in front
   int state_followed_ = kNormal;
   bool turning_ = false;  // to another page
+  bool showing_changes_ = false;
   bool placed_ = false;
   bool maximised_by_program_ = false;
   bool flush_coming_ = false;
