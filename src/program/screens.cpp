@@ -26,7 +26,6 @@
 #include "lists/make_new_list.h"
 #include "lists/program_options.h"
 #include "lists/quick_word_option.h"
-#include "program/unbuilt_form.h"
 #include "quiz/quiz_form.h"
 #include "quiz/quiz_options.h"
 #include "quiz/quiz_options3.h"
@@ -47,15 +46,11 @@ namespace brindlepage {
 
 namespace {
 
-using Maker = std::unique_ptr<Form> (*)(Screen, std::string_view, Program&);
+using Maker = std::unique_ptr<Form> (*)(Program&);
 
 template <class FormType>
-std::unique_ptr<Form> Make(Screen, std::string_view, Program& program) {
+std::unique_ptr<Form> Make(Program& program) {
   return std::make_unique<FormType>(program);
-}
-
-std::unique_ptr<Form> MakeUnbuilt(Screen id, std::string_view name, Program& program) {
-  return std::make_unique<UnbuiltForm>(program, id, std::string(name));
 }
 
 struct ScreenEntry {
@@ -113,7 +108,7 @@ constexpr ScreenEntry kScreens[] = {
 
 std::unique_ptr<Form> MakeForm(Screen id, Program& program) {
   for (const ScreenEntry& screen : kScreens) {
-    if (screen.id == id) return screen.make(id, screen.name, program);
+    if (screen.id == id) return screen.make(program);
   }
   throw RunTimeError(Fault::ObjectRequired);
 }
