@@ -152,6 +152,16 @@ TEST_F(DeleteListTest, AFolderInTheFilesPlaceEndsTheProgram) {
   ExpectFatal("75 Path/File access error");
 }
 
+TEST_F(DeleteListTest, AFileThatMayBeReadOnlyEndsTheProgramAndStays) {
+  const std::string before = File();
+  Open("Delete");
+  Select(Form().TheLists, 1);
+  Click(Form().Command1);
+  WithReadOnly("TheLists.dat", [this] { Click(Form().Yes); });
+  ExpectFatal("75 Path/File access error");
+  EXPECT_EQ(File(), before);
+}
+
 TEST_F(DeleteListTest, AFullDeviceEndsTheProgram) {
   Open("Delete");
   Select(Form().TheLists, 1);

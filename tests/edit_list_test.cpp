@@ -476,6 +476,14 @@ TEST_F(EditListTest, AFullDiskEndsTheProgramAndLeavesTheFileCut) {
   EXPECT_EQ(File(), "Animals\r\ncat\r\npu");
 }
 
+TEST_F(EditListTest, AFileThatMayBeReadOnlyEndsTheProgramAndStays) {
+  const std::string before = File();
+  Begin();
+  WithReadOnly("TheLists.dat", [this] { Tool("Save and Quit"); });
+  ExpectFatal("75 Path/File access error");
+  EXPECT_EQ(File(), before);
+}
+
 TEST_F(EditListTest, ClosingTheFrameEndsTheProgramAndSavesNothing) {
   const std::string before = File();
   Begin();

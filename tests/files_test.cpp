@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "tests/expect_fault.h"
+#include "tests/ordinary_teacher.h"
 #include "tests/temp_folder.h"
 #include "toolkit/code_page.h"
 
@@ -18,26 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-// A teacher who is not the machine's administrator, to whom no file would be closed.
-class OrdinaryTeacher {
- public:
-  OrdinaryTeacher() {
-    if (administrator_) {
-      EXPECT_EQ(seteuid(65534), 0);
-    }
-  }
-  ~OrdinaryTeacher() {
-    if (administrator_) {
-      EXPECT_EQ(seteuid(0), 0);
-    }
-  }
-  OrdinaryTeacher(const OrdinaryTeacher&) = delete;
-  OrdinaryTeacher& operator=(const OrdinaryTeacher&) = delete;
-
- private:
-  bool administrator_ = geteuid() == 0;
-};
 
 Names LinesOf(const TempFolder& folder, std::string_view bytes) {
   folder.Write("lines.dat", bytes);

@@ -54,7 +54,7 @@ Built BuildSeeded(const PuzzleWish& wish, std::uint64_t seed, std::vector<double
   return Build(StateFor(wish), source);
 }
 
-// The letters of the part of the grid that has any, a line a row, blanks for empty cells, behind
+// The letters of the grid, cut to where it has any, a line a row, dots for empty cells, behind
 // the column and row of its first corner.
 std::string Picture(const CrosswordGrid& grid) {
   int left = 99, right = 0, top = 99, bottom = 0;

@@ -5,6 +5,7 @@
 #include <csignal>
 
 #include "core/list_file.h"
+#include "tests/ordinary_teacher.h"
 #include "tests/teacher.h"
 
 namespace brindlepage {
@@ -93,6 +94,14 @@ class ListKeeper : public Teacher {
   std::string FocusOf(Screen id) {
     Control* focused = program.forms().Find(id)->Focused();
     return focused == nullptr ? "" : focused->Name();
+  }
+  // Does that to a file that may be read only.
+  template <class Deed>
+  void WithReadOnly(const char* name, Deed deed) {
+    std::filesystem::permissions(folder.Path(), std::filesystem::perms{0755});
+    std::filesystem::permissions(name, std::filesystem::perms{0444});
+    const OrdinaryTeacher teacher;
+    deed();
   }
   void ExpectFatal(const std::string& error) {
     ASSERT_FALSE(platform.log.empty());

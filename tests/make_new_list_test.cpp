@@ -381,6 +381,14 @@ TEST_F(MakeNewListTest, AFullDiskEndsTheProgramAndLeavesTheFileCut) {
   EXPECT_EQ(File(), "Planets\r\nMars\r\nred\r\n");
 }
 
+TEST_F(MakeNewListTest, AFileThatMayBeReadOnlyEndsTheProgramAndStays) {
+  Begin();
+  Add(U"cat", U"purrs");
+  WithReadOnly("TheLists.dat", [this] { Tool("Save and Quit"); });
+  ExpectFatal("75 Path/File access error");
+  EXPECT_EQ(File(), AsFile({"Planets", "Mars", "red", "Venus", "hot"}));
+}
+
 // --- A file without lists: all stands one place further up than the rows are taken for.
 
 class FirstListTest : public MakeNewListTest {

@@ -95,6 +95,23 @@ TEST_F(BackupTest, AFolderInTheBackupsPlaceEndsTheProgram) {
   ExpectFatal("75 Path/File access error");
 }
 
+TEST_F(BackupTest, ABackupThatMayBeReadOnlyEndsTheProgramAndStays) {
+  folder.Write("TheLists.bak", "an earlier one\r\n");
+  Open("Opts");
+  WithReadOnly("TheLists.bak", [this] { Click(Screen::ProgramOptions, "Command6"); });
+  ExpectFatal("75 Path/File access error");
+  EXPECT_EQ(folder.Read("TheLists.bak"), "an earlier one\r\n");
+}
+
+TEST_F(BackupTest, AListFileThatMayBeReadOnlyIsToldAsAMissingBackup) {
+  folder.Write("TheLists.bak", "Rocks\r\n");
+  Open("Opts");
+  WithReadOnly("TheLists.dat", [this] { Click(Screen::ProgramOptions, "Command1"); });
+  EXPECT_EQ(TakeLog().back(), "Error|No Backup file can be found");
+  EXPECT_TRUE(Active(Screen::ProgramOptions));
+  EXPECT_EQ(File(), kLists);
+}
+
 TEST_F(BackupTest, RestoringBringsTheBackupBack) {
   folder.Write("TheLists.bak", AsFile({"Rocks", "flint", "\xE9, \"x\" "}));
   Open("Opts");
@@ -296,6 +313,15 @@ TEST_F(ChangeListTest, SettingsOfThreeLinesAreNotLengthened) {
   EXPECT_EQ(Settings(), AsFile({"a", "b", "*****"}));
 }
 
+TEST_F(ChangeListTest, SettingsThatMayBeReadOnlyAreToldAsAnInvalidFolderToo) {
+  Begin();
+  Type(Form().Text1, code_page::ToUnicode(Here() + "\\own\\"));
+  WithReadOnly("brindlepage.dat", [this] { Click(Form().Command1); });
+  EXPECT_EQ(TakeLog().back(), "|The directory you have chosen is invalid.");
+  EXPECT_FALSE(program.Ended());
+  EXPECT_EQ(Settings(), AsFile({"a", "b", "*****", "listpath"}));
+}
+
 TEST_F(ChangeListTest, AFullDiskIsToldAsAnInvalidFolderToo) {
   Begin();
   {
@@ -420,6 +446,13 @@ TEST_F(QuickWordOptionTest, FoundAndUncheckedAgainNoneIsStored) {
   TakeLog();
   Click(Form().Command1);
   EXPECT_EQ(TakeLog(), Log{kRestart});
+  EXPECT_EQ(Settings(), AsFile({"a", "b", "*****", "listpath"}));
+}
+
+TEST_F(QuickWordOptionTest, SettingsThatMayBeReadOnlyEndTheProgram) {
+  Begin();
+  WithReadOnly("brindlepage.dat", [this] { Click(Form().Command1); });
+  ExpectFatal("75 Path/File access error");
   EXPECT_EQ(Settings(), AsFile({"a", "b", "*****", "listpath"}));
 }
 

@@ -201,7 +201,8 @@ std::vector<Walk> Walks() {
       {Click("Title", "Command1", 0), Select("ChooseList", "TheLists", 1),
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
        Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"),
-       Click("QuizOptions", "Command1")},
+       Click("QuizOptions", "Command1"), Click("PuzzleSize", "Command1"),
+       Tool("WordSearchForm", "Key"), Photo("WordSearchForm-key")},
       // A new list.
       {Tool("Title", "Create"), Type("CreateList", "NewName", "Volcanoes"),
        Click("CreateList", "Command2"), Type("MakeNewList", "TheWord", "lava"),

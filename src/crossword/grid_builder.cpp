@@ -92,6 +92,7 @@ void GridBuilder::Mark() {
 // where that word's turn comes the word before it stands a second time, and the list's first word
 // is left out. With word 2 first, position 2 holds word 0: a word without letters.
 void GridBuilder::ShuffleWords() {
+  ++grid_state_;
   shared_.AnswerTable.Erase();
   random_.Reseed();
   const int first = DrawMarkedWord();
@@ -139,6 +140,7 @@ void GridBuilder::BeginAttempt() {
   deepest_restart_ = std::max(deepest_restart_, depth);
   retry_list_.Erase();
   grid_.Clear();
+  ++grid_state_;
   placed_flag_ = false;
   turn_ = 1;
   nested_.push_back({.last_turn = target_words_});
@@ -153,7 +155,8 @@ GridBuilder::Outcome GridBuilder::Continue(Attempt& attempt) {
         outcome = FirstSweep(attempt);
         break;
       case Stage::RetryStage:
-        outcome = RetryStage(attempt);
+        if (attempt.retries > 0) outcome = RetryStage(attempt);
+        if (outcome == Outcome::Done) attempt.stage = Stage::Acceptance;
         break;
       case Stage::Acceptance:
         outcome = Acceptance(attempt);
@@ -215,7 +218,7 @@ GridBuilder::Outcome GridBuilder::FirstSweep(Attempt& attempt) {
 }
 
 // In a strict attempt a word that crosses nothing ends the sweep; in a lax one it has to wait. The
-// flag falls in strict attempts alone, so that a lax one tries less letters of a word.
+// flag falls in strict attempts alone, so that a lax one tries fewer letters of a word.
 GridBuilder::Outcome GridBuilder::KeepOrLayAside(Attempt& attempt) {
   const bool lax = 3 * attempts_ > slider_;
   if (lax) {
@@ -267,32 +270,27 @@ void GridBuilder::CountScanFailure(int n) {
 // Offers the words laid aside again and again. When no more of them cross, the last that failed
 // becomes an orphan, and the others may cross it.
 GridBuilder::Outcome GridBuilder::RetryStage(Attempt& attempt) {
-  if (attempt.retries > 0) {
-    if (!attempt.orphan_due) {
-      remaining_ = attempt.orphans = attempt.retries;
-      orphan_just_placed_ = false;
-    }
-    while (attempt.orphan_due || remaining_ > 0) {
-      if (!attempt.orphan_due) {
-        const int before = remaining_;
-        RetryPass(attempt);
-        if (remaining_ != before) continue;
-        TakeWord(retry_list_(last_failure_));
-        attempt.orphan_due = true;
-        if (PlaceOrphan() == Outcome::RestartWanted) return Outcome::RestartWanted;
-      }
-      attempt.orphan_due = false;
-      --remaining_;
-      orphan_just_placed_ = true;
-    }
-    orphan_count_ = attempt.orphans;
+  if (attempt.orphan_due) {
+    CountOrphan(attempt);
+  } else {
+    remaining_ = attempt.orphans = attempt.retries;
+    orphan_just_placed_ = false;
   }
-  attempt.stage = Stage::Acceptance;
+  while (remaining_ > 0) {
+    if (RetryPass(attempt)) continue;
+    TakeWord(retry_list_(last_failure_));
+    attempt.orphan_due = true;
+    if (PlaceOrphan() == Outcome::RestartWanted) return Outcome::RestartWanted;
+    CountOrphan(attempt);
+  }
+  orphan_count_ = attempt.orphans;
   return Outcome::Done;
 }
 
-// The first word to cross after an orphan was placed is taken to have crossed the orphan.
-void GridBuilder::RetryPass(Attempt& attempt) {
+// Whether any word crossed. The first to cross after an orphan was placed is taken to have crossed
+// the orphan.
+bool GridBuilder::RetryPass(Attempt& attempt) {
+  const int before = remaining_;
   for (int j = 1; j <= attempt.retries; ++j) {
     const int position = retry_list_(j);
     if (Placed(position)) continue;
@@ -306,6 +304,13 @@ void GridBuilder::RetryPass(Attempt& attempt) {
     --attempt.orphans;
     if (std::exchange(orphan_just_placed_, false)) --attempt.orphans;
   }
+  return remaining_ != before;
+}
+
+void GridBuilder::CountOrphan(Attempt& attempt) {
+  attempt.orphan_due = false;
+  --remaining_;
+  orphan_just_placed_ = true;
 }
 
 GridBuilder::Outcome GridBuilder::Acceptance(const Attempt& attempt) {
@@ -348,39 +353,41 @@ void GridBuilder::PlaceFirstWord() {
 }
 
 // The first cell that fits wins. The cells are looked at in the order of the columns and of the
-// rows in them, or in the very opposite order.
+// rows in them, or in the very opposite order. Whether any fits doesn't hang on the order, so that
+// a word is not looked for again while the grid stays as it is.
 void GridBuilder::SearchCrossing() {
   random_.Reseed();
   const bool forward = random_.DrawIndex(2) == 1;
   if (Placed(word_pos_)) return;
+  const SearchView view = {grid_state_, placed_flag_};
+  if (failed_searches_(word_pos_) == view) return;
   for (std::size_t k = 0; k < current_word_.size(); ++k) {
     letter_places_[static_cast<unsigned char>(current_word_[k])] |= Bit(static_cast<int>(k));
   }
-  if (forward) {
-    SearchForward();
-  } else {
-    SearchBackward();
-  }
+  const bool found = forward ? SearchForward() : SearchBackward();
+  if (!found) failed_searches_(word_pos_) = view;
   for (char letter : current_word_) letter_places_[static_cast<unsigned char>(letter)] = 0;
 }
 
-void GridBuilder::SearchForward() {
+bool GridBuilder::SearchForward() {
   for (int column = 1; column <= CrosswordGrid::kColumns; ++column) {
     for (std::uint32_t rows = grid_.LettersInColumn(column); rows != 0; rows &= rows - 1) {
-      if (TryCell(CrosswordGrid::Cell(column, std::countr_zero(rows)))) return;
+      if (TryCell(CrosswordGrid::Cell(column, std::countr_zero(rows)))) return true;
     }
   }
+  return false;
 }
 
-void GridBuilder::SearchBackward() {
+bool GridBuilder::SearchBackward() {
   for (int column = CrosswordGrid::kColumns; column >= 1; --column) {
     std::uint32_t rows = grid_.LettersInColumn(column);
     while (rows != 0) {
       const int row = std::bit_width(rows) - 1;
-      if (TryCell(CrosswordGrid::Cell(column, row))) return;
+      if (TryCell(CrosswordGrid::Cell(column, row))) return true;
       rows &= ~Bit(row);
     }
   }
+  return false;
 }
 
 // While the flag still stands from an earlier word, the first letter that matches is the only one
@@ -483,6 +490,7 @@ void GridBuilder::WriteWord(const Way& way, int start_cell) {
   grid_.PlacedWords(word_pos_) = {.Number = grid_.StartNumbers(column, row),
                                   .Direction = way.direction};
   placed_flag_ = true;
+  ++grid_state_;
 }
 
 void GridBuilder::ShowProgress(int value) {

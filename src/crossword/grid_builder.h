@@ -97,17 +97,25 @@ class GridBuilder {
   Outcome ScanBestWords(Attempt& attempt);
   void CountScanFailure(int n);
   Outcome RetryStage(Attempt& attempt);
-  void RetryPass(Attempt& attempt);
+  bool RetryPass(Attempt& attempt);
+  void CountOrphan(Attempt& attempt);
   Outcome Acceptance(const Attempt& attempt);
   bool EnoughCross(const Attempt& attempt) const;
   Outcome CheckGridNotEmpty() const;
+
+  // What a search can see: where nothing of it changed, a word that failed fails again.
+  struct SearchView {
+    std::int64_t grid_state = 0;
+    bool placed_flag = false;
+    bool operator==(const SearchView&) const = default;
+  };
 
   bool Placed(int position) const { return grid_.PlacedWords(position).Number >= 1; }
   void TakeWord(int position);
   void PlaceFirstWord();
   void SearchCrossing();
-  void SearchForward();
-  void SearchBackward();
+  bool SearchForward();
+  bool SearchBackward();
   bool TryCell(int cell);
   bool TryBothWays(int cell, int k);
   bool TryWay(const Way& way, int cell, int k);
@@ -135,6 +143,8 @@ class GridBuilder {
   std::string_view current_word_;
   // Of each letter, a bit for each place it has in the word that is searched a crossing for.
   std::array<std::uint32_t, 256> letter_places_{};
+  std::int64_t grid_state_ = 0;  // another number for each grid and word order
+  BoundedArray<SearchView, 0, 300> failed_searches_;
   bool placed_flag_ = false;
   int remaining_ = 0;
   int last_failure_ = 0;

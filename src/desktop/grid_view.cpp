@@ -58,10 +58,7 @@ void PaintBackground(QPainter& painter, const Form& form, const QRectF& room) {
   for (const Control* control : form.Controls()) {
     const auto* image = dynamic_cast<const Image*>(control);
     if (image == nullptr || !image->Visible || image->Picture() == nullptr) continue;
-    const QImage picture = DecodePicture(image->Picture);
-    if (picture.isNull()) continue;
-    painter.drawImage(room, picture.scaled(room.size().toSize(), Qt::IgnoreAspectRatio,
-                                           Qt::SmoothTransformation));
+    painter.drawPixmap(room.toRect(), StretchedPicture(image->Picture, room.toRect().size()));
   }
 }
 

@@ -12,28 +12,44 @@ namespace brindlepage {
 namespace {
 constexpr int kIconSide = 64;  // pixels
 constexpr QSize kUsualPicture{360, 270};
+
+// What `make` makes of the decoded picture, kept for the next time.
+template <class Make>
+QPixmap KeptPicture(const char* how, const PicturePtr& picture, QSize size, Make make) {
+  if (picture == nullptr || size.isEmpty()) return {};
+  const QString key = QString("%1/%2/%3/%4x%5")
+                          .arg(how)
+                          .arg(qHashBits(picture->bytes.data(), picture->bytes.size()))
+                          .arg(picture->bytes.size())
+                          .arg(size.width())
+                          .arg(size.height());
+  QPixmap kept;
+  if (QPixmapCache::find(key, &kept)) return kept;
+  const QImage image = DecodePicture(picture->bytes);
+  if (image.isNull()) return {};
+  kept = QPixmap::fromImage(make(image));
+  QPixmapCache::insert(key, kept);
+  return kept;
+}
+
 }  // namespace
 
 QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio) {
-  if (picture == nullptr || size.isEmpty()) return {};
   const QSize wanted = size * pixel_ratio;
-  const QString key = QString("covering/%1/%2/%3x%4")
-                          .arg(qHashBits(picture->bytes.data(), picture->bytes.size()))
-                          .arg(picture->bytes.size())
-                          .arg(wanted.width())
-                          .arg(wanted.height());
-  QPixmap covering;
-  if (QPixmapCache::find(key, &covering)) return covering;
-  const QImage image = DecodePicture(picture->bytes);
-  if (image.isNull()) return {};
-  const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
-  const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
-                   wanted);
-  covering = QPixmap::fromImage(
-      image.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).copy(part));
+  QPixmap covering = KeptPicture("covering", picture, wanted, [wanted](const QImage& image) {
+    const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
+    const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
+                     wanted);
+    return image.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).copy(part);
+  });
   covering.setDevicePixelRatio(pixel_ratio);
-  QPixmapCache::insert(key, covering);
   return covering;
+}
+
+QPixmap StretchedPicture(const PicturePtr& picture, QSize size) {
+  return KeptPicture("stretched", picture, size, [size](const QImage& image) {
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  });
 }
 
 PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), icon_(icon) {

@@ -13,6 +13,9 @@ namespace brindlepage {
 // next page with the same picture.
 QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio);
 
+// The picture of exactly that size in pixels, whatever its proportions. Kept likewise.
+QPixmap StretchedPicture(const PicturePtr& picture, QSize size);
+
 // Shows a picture as large as fits, or while there is none a drawing.
 class PictureView : public QWidget {
  public:

@@ -6,7 +6,7 @@ namespace brindlepage {
 
 AddWord::AddWord(Program& owner)
     : ProgramForm(owner, Screen::AddWord, "AddWord", "Add A Word To This List", FormKind::Box) {
-  constexpr int kWide = 46;
+  constexpr int kWide = 60;
   Foreign.Frame1.Visible = false;
   Command1.Default = true;
   Command2.Cancel = true;

@@ -6,6 +6,8 @@ PuzzleSize::PuzzleSize(Program& owner)
     : ProgramForm(owner, Screen::PuzzleSize, "PuzzleSize", "Puzzle Size") {
   Command1.Default = true;
   Command2.Cancel = true;
+  VScrollx.LargeChange = 5;
+  VScrolly.LargeChange = 5;
   VScrollx.Change = [this] { ShowSize(); };
   VScrolly.Change = [this] { ShowSize(); };
   Command1.Click = [this] { Continue(); };

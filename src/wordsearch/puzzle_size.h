@@ -12,10 +12,10 @@ class PuzzleSize : public ProgramForm {
   Label Label1{*this, "Label1", "How big do you want this puzzle to be?", Look::Heading};
   Label Label3{*this, "Label3", "Across:"};
   HScrollBar VScrollx{*this, "VScrollx", 10, 30, 20};
-  Label Labelx{*this, "Labelx"};
+  Label Labelx{*this, "Labelx", "", Look::Heading};
   Label Label4{*this, "Label4", "Down:"};
   HScrollBar VScrolly{*this, "VScrolly", 10, 30, 20};
-  Label Labely{*this, "Labely"};
+  Label Labely{*this, "Labely", "", Look::Heading};
   Label Label2{*this, "Label2",
                "Note: The program will use this number as a minimum. The puzzle size may have to "
                "be adjusted to make all of the words fit...",

@@ -43,6 +43,10 @@ class AnsweringPlatform : public Platform {
   Size ScreenSize() const override { return platform_.ScreenSize(); }
   std::vector<std::string> ScreenFonts() const override { return platform_.ScreenFonts(); }
   Milliseconds Now() const override { return platform_.Now(); }
+  void Pause(Milliseconds time) override { platform_.Pause(time); }
+  bool CanShow(const Picture& picture) override { return platform_.CanShow(picture); }
+  FormPicture PictureOf(Form& form) override { return platform_.PictureOf(form); }
+  std::unique_ptr<PrinterPages> StartPages() override { return platform_.StartPages(); }
   void FatalError(int number, std::string_view text) override {
     platform_.FatalError(number, text);
   }
