@@ -4,7 +4,7 @@ set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libgl-dev libgtest-dev python3 \
+tools/install_packages.sh g++ cmake ninja-build qt6-base-dev qt6-svg-dev libemf2svg-dev libgl-dev libgtest-dev python3 \
   fonts-liberation poppler-utils xvfb xauth
 
 echo "Building in $here/build/check ..."

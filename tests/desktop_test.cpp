@@ -24,7 +24,6 @@
 #include "core/pick_words.h"
 #include "core/title.h"
 #include "desktop/boxes.h"
-#include "desktop/command_line.h"
 #include "desktop/icons.h"
 #include "desktop/mnemonics.h"
 #include "desktop/rich_text_view.h"
@@ -696,33 +695,6 @@ TEST(Mnemonics, TakesTheFirstFreeLetterOfAWordThenAnyThenNone) {
   EXPECT_EQ(letters.Assign("Q&A"), "&Q&&A");
   EXPECT_EQ(letters.Assign("aqua"), "aq&ua");
   EXPECT_EQ(letters.Assign("Caq"), "Caq");
-}
-
-TEST(CommandLine, SplitsThePathFromTheQuotedFiles) {
-  const CommandLine one = SplitCommandLine("C:\\Program Files\\Writer.exe \"C:\\My Lists\\a.rtf\"");
-  EXPECT_EQ(one.program, "C:\\Program Files\\Writer.exe");
-  EXPECT_EQ(one.files, (std::vector<std::string>{"C:\\My Lists\\a.rtf"}));
-
-  const CommandLine two = SplitCommandLine("\"/opt/my writer\" \"a.rtf\" \"b(Answer Key).rtf\"");
-  EXPECT_EQ(two.program, "/opt/my writer");
-  EXPECT_EQ(two.files, (std::vector<std::string>{"a.rtf", "b(Answer Key).rtf"}));
-
-  EXPECT_EQ(SplitCommandLine("writer").program, "writer");
-  EXPECT_TRUE(SplitCommandLine("writer").files.empty());
-  EXPECT_EQ(SplitCommandLine("").program, "");
-}
-
-TEST_F(DesktopTest, AProgramThatCannotBeStartedIsFileNotFound) {
-  Start();
-  Fault fault = Fault::Overflow;
-  desktop_->loop().Dispatch([&] {
-    try {
-      program().platform().StartProgram("no-such-program \"a.rtf\"");
-    } catch (const RunTimeError& error) {
-      fault = error.fault();
-    }
-  });
-  EXPECT_EQ(fault, Fault::FileNotFound);
 }
 
 TEST_F(DesktopTest, EveryIconOfTheMenuAndItsToolbarIsDrawnAndFadesWhenDisabled) {

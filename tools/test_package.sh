@@ -5,7 +5,7 @@ set -eu
 here=$(cd "$(dirname "$0")/.." && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libgl-dev dpkg-dev file \
+tools/install_packages.sh g++ cmake ninja-build qt6-base-dev qt6-svg-dev libemf2svg-dev libgl-dev dpkg-dev file \
   fonts-liberation xvfb xauth xdotool desktop-file-utils
 
 echo "Building in $here/build/package ..."

@@ -1,5 +1,7 @@
 #include "desktop/command_line.h"
 
+#include <algorithm>
+
 namespace brindlepage {
 
 namespace {
@@ -10,26 +12,45 @@ std::string Trimmed(std::string_view text) {
   return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
 }
 
+// The words and quoted texts, in order.
+std::vector<std::string> SplitArguments(std::string_view text) {
+  std::vector<std::string> arguments;
+  while (true) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    if (text.empty()) return arguments;
+    const bool quoted = text.front() == '"';
+    if (quoted) text.remove_prefix(1);
+    const auto end = std::min(text.find_first_of(quoted ? "\"" : "\" "), text.size());
+    arguments.emplace_back(text.substr(0, end));
+    text.remove_prefix(end);
+    if (quoted && !text.empty()) text.remove_prefix(1);
+  }
+}
+
 }  // namespace
 
-CommandLine SplitCommandLine(std::string_view command_line) {
-  CommandLine split;
-  const auto quote = command_line.find('"');
-  split.program = Trimmed(command_line.substr(0, quote));
-  auto open = quote;
-  while (open != std::string_view::npos) {
-    const auto close = command_line.find('"', open + 1);
-    const auto length = close == std::string_view::npos ? close : close - open - 1;
-    std::string quoted(command_line.substr(open + 1, length));
-    if (split.program.empty()) {
-      split.program = std::move(quoted);
-    } else {
-      split.files.push_back(std::move(quoted));
-    }
-    if (close == std::string_view::npos) break;
-    open = command_line.find('"', close + 1);
+CommandLine SplitCommandLine(std::string_view command_line,
+                             const std::function<bool(const std::string&)>& is_program) {
+  const auto quote = std::min(command_line.find('"'), command_line.size());
+  const std::string path = Trimmed(command_line.substr(0, quote));
+  if (path.empty()) {
+    auto arguments = SplitArguments(command_line.substr(quote));
+    if (arguments.empty()) return {};
+    std::string program = std::move(arguments.front());
+    arguments.erase(arguments.begin());
+    return {std::move(program), std::move(arguments)};
   }
-  return split;
+  std::string program = path;
+  while (!is_program(program)) {
+    const auto blank = program.rfind(' ');
+    if (blank == std::string::npos) {
+      program = path;
+      break;
+    }
+    program = Trimmed(program.substr(0, blank));
+  }
+  const auto behind = command_line.find(program) + program.size();
+  return {std::move(program), SplitArguments(command_line.substr(behind))};
 }
 
 }  // namespace brindlepage

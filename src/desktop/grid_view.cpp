@@ -66,10 +66,7 @@ struct Scale {
 void PaintBackground(QPainter& painter, const Form& form, const QRectF& room) {
   painter.fillRect(room, ToColour(form.BackColor));
   ForEachPicture(form, [&](const Image& image) {
-    const QImage picture = DecodePicture(image.Picture);
-    if (picture.isNull()) return;
-    painter.drawImage(room, picture.scaled(room.size().toSize(), Qt::IgnoreAspectRatio,
-                                           Qt::SmoothTransformation));
+    painter.drawPixmap(room.toRect(), StretchedPicture(image.Picture, room.toRect().size()));
   });
 }
 

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+#include "desktop/decode_picture.h"
 #include "desktop/icons.h"
 
 namespace brindlepage {
@@ -11,34 +12,44 @@ namespace brindlepage {
 namespace {
 constexpr int kIconSide = 64;  // pixels
 constexpr QSize kUsualPicture{360, 270};
-}  // namespace
 
-QImage DecodePicture(const PicturePtr& picture) {
-  if (picture == nullptr) return {};
-  return QImage::fromData(reinterpret_cast<const uchar*>(picture->bytes.data()),
-                          static_cast<int>(picture->bytes.size()));
-}
-
-QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio) {
+// What `make` makes of the decoded picture, kept for the next time.
+template <class Make>
+QPixmap KeptPicture(const char* how, const PicturePtr& picture, QSize size, Make make) {
   if (picture == nullptr || size.isEmpty()) return {};
-  const QSize wanted = size * pixel_ratio;
-  const QString key = QString("covering/%1/%2/%3x%4")
+  const QString key = QString("%1/%2/%3/%4x%5")
+                          .arg(how)
                           .arg(qHashBits(picture->bytes.data(), picture->bytes.size()))
                           .arg(picture->bytes.size())
-                          .arg(wanted.width())
-                          .arg(wanted.height());
-  QPixmap covering;
-  if (QPixmapCache::find(key, &covering)) return covering;
-  const QImage image = DecodePicture(picture);
+                          .arg(size.width())
+                          .arg(size.height());
+  QPixmap kept;
+  if (QPixmapCache::find(key, &kept)) return kept;
+  const QImage image = DecodePicture(picture->bytes);
   if (image.isNull()) return {};
-  const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
-  const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
-                   wanted);
-  covering = QPixmap::fromImage(
-      image.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).copy(part));
+  kept = QPixmap::fromImage(make(image));
+  QPixmapCache::insert(key, kept);
+  return kept;
+}
+
+}  // namespace
+
+QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio) {
+  const QSize wanted = size * pixel_ratio;
+  QPixmap covering = KeptPicture("covering", picture, wanted, [wanted](const QImage& image) {
+    const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
+    const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
+                     wanted);
+    return image.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).copy(part);
+  });
   covering.setDevicePixelRatio(pixel_ratio);
-  QPixmapCache::insert(key, covering);
   return covering;
+}
+
+QPixmap StretchedPicture(const PicturePtr& picture, QSize size) {
+  return KeptPicture("stretched", picture, size, [size](const QImage& image) {
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  });
 }
 
 PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), icon_(icon) {
@@ -48,7 +59,7 @@ PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), 
 void PictureView::Show(const PicturePtr& picture) {
   if (picture == picture_) return;
   picture_ = picture;
-  image_ = DecodePicture(picture);
+  image_ = picture == nullptr ? QImage() : DecodePicture(picture->bytes);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
   updateGeometry();
   update();

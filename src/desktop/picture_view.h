@@ -9,12 +9,12 @@
 
 namespace brindlepage {
 
-// The picture decoded; a null image where there is none or its kind can't be shown here.
-QImage DecodePicture(const PicturePtr& picture);
-
 // The picture as it covers a page of that size, its right and lower edges showing. Kept for the
 // next page with the same picture.
 QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio);
+
+// The picture of exactly that size in pixels, whatever its proportions. Kept likewise.
+QPixmap StretchedPicture(const PicturePtr& picture, QSize size);
 
 // Shows a picture as large as fits, or while there is none a drawing.
 class PictureView : public QWidget {

@@ -2,17 +2,22 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QThread>
 #include <algorithm>
 
 #include "desktop/boxes.h"
 #include "desktop/command_line.h"
+#include "desktop/decode_picture.h"
 #include "desktop/grid_view.h"
 #include "desktop/program_dialog.h"
 #include "desktop/qt_pages.h"
@@ -45,6 +50,39 @@ bool InCodePage(const QString& text) {
 
 QString NativeName(std::string_view name) {
   return QString::fromStdU32String(files::NativePath(name).u32string());
+}
+
+// What a program is told: a file by its name on this machine, anything else as it stands.
+QString NativeArgument(const std::string& argument) {
+  try {
+    const QString name = NativeName(argument);
+    if (QFileInfo::exists(name)) return name;
+  } catch (const RunTimeError&) {
+    // No name of a file.
+  }
+  return ToQString(argument);
+}
+
+// The file of a program, be it named by its path or alone; empty if there is none.
+QString ProgramFile(const std::string& path) {
+  const QString name = NativeArgument(path);
+  const QFileInfo file(name);
+  if (file.isFile() && file.isExecutable()) return file.absoluteFilePath();
+  return QStandardPaths::findExecutable(name);
+}
+
+// A file for what is printed that isn't there yet, in the folder of the last one.
+QString FreePdfFile(const QPrinter& printer) {
+  QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  if (!printer.outputFileName().isEmpty()) {
+    folder = QFileInfo(printer.outputFileName()).absolutePath();
+  } else if (!QFileInfo(folder).isDir()) {
+    folder = QDir::homePath();
+  }
+  const QString name = QString("%1/%2").arg(folder, QString(printer.docName()).replace('/', '-'));
+  QString file = name + ".pdf";
+  for (int i = 2; QFileInfo::exists(file); ++i) file = QString("%1 %2.pdf").arg(name).arg(i);
+  return file;
 }
 
 }  // namespace
@@ -91,10 +129,18 @@ QPrinter& QtPlatform::Printer() {
 std::optional<PrintChoice> QtPlatform::PrintDialog(unsigned flags) {
   QPrinter& printer = Printer();
   printer.setPrintRange(QPrinter::AllPages);
+  printer.setCopyCount(1);
+  printer.setDocName(windows_.Front()->windowTitle());
   QPrintDialog dialog(&printer, windows_.Front());
   dialog.setOption(QAbstractPrintDialog::PrintSelection, !(flags & kPrintNoSelection));
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, !(flags & kPrintNoPageNumbers));
+#ifdef Q_OS_WIN
   dialog.setOption(QAbstractPrintDialog::PrintToFile, !(flags & kPrintNoFile));
+#else
+  // Here the PDF file is one of the printers, and the only one where no other is set up.
+  dialog.setOption(QAbstractPrintDialog::PrintToFile);
+  if (auto* file = dialog.findChild<QLineEdit*>("filename")) file->setText(FreePdfFile(printer));
+#endif
   if (!Run(dialog)) return std::nullopt;
   return printer.printRange() == QPrinter::Selection ? PrintChoice::Selection : PrintChoice::All;
 }
@@ -120,13 +166,18 @@ std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::s
 }
 
 void QtPlatform::StartProgram(std::string_view command_line) {
-  const CommandLine command = SplitCommandLine(command_line);
-  if (command.program.empty()) throw RunTimeError(Fault::FileNotFound);
-  QStringList files;
-  for (const std::string& file : command.files) files << NativeName(file);
-  if (!QProcess::startDetached(NativeName(command.program), files)) {
+  const CommandLine command = SplitCommandLine(
+      command_line, [](const std::string& path) { return !ProgramFile(path).isEmpty(); });
+  QStringList arguments;
+  for (const std::string& argument : command.arguments) arguments << NativeArgument(argument);
+  const QString program = ProgramFile(command.program);
+  if (program.isEmpty() || !QProcess::startDetached(program, arguments, QDir::currentPath())) {
     throw RunTimeError(Fault::FileNotFound);
   }
+}
+
+bool QtPlatform::CanShow(const Picture& picture) {
+  return picture.format == "wmf" || !DecodePicture(picture.bytes).isNull();
 }
 
 void QtPlatform::Beep() { QApplication::beep(); }

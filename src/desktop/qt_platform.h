@@ -27,6 +27,7 @@ class QtPlatform : public QObject, public Platform {
   std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
                                         std::string_view folder) override;
   void StartProgram(std::string_view command_line) override;
+  bool CanShow(const Picture& picture) override;
   void Beep() override;
 
   Size ScreenSize() const override;

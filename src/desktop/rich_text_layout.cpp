@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "desktop/decode_picture.h"
 #include "toolkit/code_page.h"
 
 namespace brindlepage {
@@ -85,11 +86,6 @@ class BlankTails : public QSyntaxHighlighter {
   static constexpr qsizetype kLong = 2000;
 };
 
-QImage Decode(const RichPicture& picture) {
-  const auto* bytes = reinterpret_cast<const uchar*>(picture.bytes.data());
-  return QImage::fromData(bytes, static_cast<int>(picture.bytes.size()));
-}
-
 // What is shown of a picture that can't be read.
 void DrawPlaceholder(QPainter& painter, const QRectF& rect) {
   painter.fillRect(rect, QColor(0xF3, 0xF1, 0xEC));
@@ -137,7 +133,7 @@ void RichTextPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDo
   const auto entry = shown_.find(static_cast<std::uint32_t>(format.intProperty(kFormatId)));
   if (entry == shown_.end()) return;
   std::optional<QImage>& image = entry->second.image;
-  if (!image) image = Decode(*entry->second.picture);
+  if (!image) image = DecodePicture(entry->second.picture->bytes);
   painter->save();
   painter->setRenderHint(QPainter::SmoothPixmapTransform);
   if (image->isNull()) {

@@ -69,6 +69,20 @@ std::vector<Page> PagesOf(const Lines& lines, double height) {
   return pages;
 }
 
+// As the print dialog was told: from the last page on, and each as often as the printer does not
+// multiply them itself.
+std::vector<Page> InPrintOrder(std::vector<Page> pages, const QPrinter& printer) {
+  if (printer.pageOrder() == QPrinter::LastPageFirst) std::reverse(pages.begin(), pages.end());
+  const int copies = printer.supportsMultipleCopies() ? 1 : std::max(1, printer.copyCount());
+  const std::size_t count = pages.size();
+  std::vector<Page> ordered;
+  for (std::size_t i = 0; i < count * static_cast<std::size_t>(copies); ++i) {
+    const bool collated = printer.collateCopies();
+    ordered.push_back(pages[collated ? i % count : i / static_cast<std::size_t>(copies)]);
+  }
+  return ordered;
+}
+
 void Draw(const Lines& lines, const Page& page, QPainter& painter) {
   painter.setClipRect(QRectF(-kMargin, page.top, RichTextLayout::kColumnWidth + 2 * kMargin,
                              page.bottom - page.top));
@@ -99,7 +113,7 @@ void PrintRichText(const RichTextBox& box, int start, int length, QPrinter& prin
 
   const Lines lines = LinesOf(layout.document());
   bool first = true;
-  for (const Page& page : PagesOf(lines, height)) {
+  for (const Page& page : InPrintOrder(PagesOf(lines, height), printer)) {
     if (!first && !printer.newPage()) throw RunTimeError(Fault::DeviceIo);
     first = false;
     painter.save();

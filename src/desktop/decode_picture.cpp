@@ -1,0 +1,129 @@
+#include "desktop/decode_picture.h"
+
+#include <QBuffer>
+#include <QByteArray>
+#include <QImageReader>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QtEndian>
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+#include "toolkit/picture.h"
+
+#ifdef BRINDLEPAGE_EMF
+#include <emf2svg.h>
+#endif
+
+namespace brindlepage {
+
+namespace {
+
+constexpr int kDrawnSide = 2000;  // pixels of a drawing's longer side, for paper
+
+QImage ReadByQt(const QByteArray& bytes) {
+  QBuffer buffer;
+  buffer.setData(bytes);
+  QImageReader reader(&buffer);
+  reader.setAutoTransform(true);
+  QImage largest = reader.read();
+  // An icon holds itself in several sizes.
+  for (int i = 1; i < reader.imageCount() && !reader.supportsAnimation(); ++i) {
+    if (!reader.jumpToImage(i)) break;
+    QImage other = reader.read();
+    if (other.width() > largest.width()) largest = std::move(other);
+  }
+  return largest;
+}
+
+// In front of a bitmap that has none, the file header: where its dots begin.
+QByteArray WithFileHeader(std::string_view bitmap) {
+  constexpr quint32 kFileHeader = 14;
+  constexpr quint32 kInfoHeader = 40;
+  constexpr quint32 kMasks = 3;  // the compression in which three masks follow the header
+  if (bitmap.size() < kInfoHeader) return {};
+  const auto number = [bitmap](std::size_t at) {
+    return qFromLittleEndian<quint32>(bitmap.data() + at);
+  };
+  const quint32 bits = qFromLittleEndian<quint16>(bitmap.data() + 14);
+  quint32 colors = number(32);
+  if (colors == 0 && bits <= 8) colors = 1U << bits;
+  if (colors > 256) colors = 0;
+  const quint32 masks = number(16) == kMasks ? 12 : 0;
+  const quint32 dots = kFileHeader + kInfoHeader + masks + 4 * colors;
+
+  QByteArray file("BM");
+  const auto append = [&file](quint32 value) {
+    const quint32 little = qToLittleEndian(value);
+    file.append(reinterpret_cast<const char*>(&little), sizeof little);
+  };
+  append(kFileHeader + static_cast<quint32>(bitmap.size()));
+  append(0);
+  append(dots);
+  return file.append(bitmap.data(), static_cast<qsizetype>(bitmap.size()));
+}
+
+#ifdef BRINDLEPAGE_EMF
+
+// Whether the file is one record behind another, up to its end record.
+bool HasWholeRecords(std::string_view emf) {
+  constexpr quint32 kEnd = 14;
+  std::size_t at = 0;
+  while (at + 8 <= emf.size()) {
+    const auto type = qFromLittleEndian<quint32>(emf.data() + at);
+    const auto size = qFromLittleEndian<quint32>(emf.data() + at + 4);
+    if (size < 8 || size % 4 != 0 || size > emf.size() - at) return false;
+    if (type == kEnd) return true;
+    at += size;
+  }
+  return false;
+}
+
+QByteArray SvgOf(std::string_view emf) {
+  // The converter looks a little behind records that are shorter than they should be.
+  constexpr std::size_t kRoom = 65536;
+  std::string contents(emf);
+  contents.resize(emf.size() + kRoom);
+  generatorOptions options{};
+  options.svgDelimiter = true;
+  options.emfplus = true;
+  char* svg = nullptr;
+  std::size_t length = 0;
+  const bool converted = emf2svg(contents.data(), emf.size(), &svg, &length, &options) != 0;
+  const std::unique_ptr<char, void (*)(void*)> owned(svg, std::free);
+  if (!converted || svg == nullptr) return {};
+  return {svg, static_cast<qsizetype>(length)};
+}
+
+QImage DrawEmf(std::string_view emf) {
+  if (!HasWholeRecords(emf)) return {};
+  const QByteArray svg = SvgOf(emf);
+  QSvgRenderer drawing;
+  if (svg.isEmpty() || !drawing.load(svg)) return {};
+  const QSize size = drawing.defaultSize().scaled(kDrawnSide, kDrawnSide, Qt::KeepAspectRatio);
+  if (size.isEmpty()) return {};
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  drawing.render(&painter);
+  return image;
+}
+
+#else
+
+QImage DrawEmf(std::string_view) { return {}; }
+
+#endif
+
+}  // namespace
+
+QImage DecodePicture(std::string_view bytes) {
+  const std::string format = PictureFormat(bytes);
+  if (format == "emf") return DrawEmf(bytes);
+  if (format == "dib") return ReadByQt(WithFileHeader(bytes));
+  if (format.empty() || format == "wmf") return {};
+  return ReadByQt(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+}
+
+}  // namespace brindlepage
