@@ -34,20 +34,20 @@ inline SharedState StateFor(const PuzzleWish& wish) {
   return shared;
 }
 
-struct DrawsUsedUp {};
+struct CrosswordDrawsUsedUp {};
 
 // The given draws, and then, if a seed was given, draws from that. It counts what it is asked, and
 // keeps a sum in which every reseeding has its place between the draws.
-class GivenDraws : public RandomSource {
+class CrosswordDraws : public RandomSource {
  public:
-  explicit GivenDraws(std::vector<double> draws) : draws_(std::move(draws)) {}
-  GivenDraws(std::vector<double> draws, std::uint64_t seed)
+  explicit CrosswordDraws(std::vector<double> draws) : draws_(std::move(draws)) {}
+  CrosswordDraws(std::vector<double> draws, std::uint64_t seed)
       : draws_(std::move(draws)), endless_(true), rest_(seed) {}
 
   float NextRandom() override {
     ++drawn_;
     if (next_ < draws_.size()) return static_cast<float>(draws_[next_++]);
-    if (!endless_ || drawn_ > kTooMany) throw DrawsUsedUp();
+    if (!endless_ || drawn_ > kTooMany) throw CrosswordDrawsUsedUp();
     return rest_.Next();
   }
   void Reseed() override {

@@ -63,8 +63,8 @@ void Compare(const PuzzleWish& wish, std::uint64_t seed, Seen& seen) {
   SharedState state = StateFor(wish);
   for (int build = 0; build < 2; ++build) {
     SCOPED_TRACE("seed " + std::to_string(seed) + ", build " + std::to_string(build));
-    GivenDraws expected_draws({}, seed * 2 + static_cast<std::uint64_t>(build));
-    GivenDraws draws({}, seed * 2 + static_cast<std::uint64_t>(build));
+    CrosswordDraws expected_draws({}, seed * 2 + static_cast<std::uint64_t>(build));
+    CrosswordDraws draws({}, seed * 2 + static_cast<std::uint64_t>(build));
     literal::LiteralGridBuilder expected(expected_state, expected_draws);
     try {
       expected.LoadForm();
@@ -211,8 +211,8 @@ TEST(GridBuilderBesideTheLiteralOne, BestModeOnLongListsWithWordTwoFirst) {
     SharedState expected_state = StateFor(wish);
     expected_state.MarkedCount = expected_state.ListWordCount;
     SharedState state = expected_state;
-    GivenDraws expected_draws({}, seed);
-    GivenDraws draws({}, seed);
+    CrosswordDraws expected_draws({}, seed);
+    CrosswordDraws draws({}, seed);
     literal::LiteralGridBuilder expected(expected_state, expected_draws);
     expected.LoadForm();
     GridBuilder builder(state, draws);

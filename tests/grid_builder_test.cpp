@@ -27,7 +27,7 @@ struct Built {
   std::vector<int> progress;
 };
 
-Built Build(SharedState shared, GivenDraws& draws) {
+Built Build(SharedState shared, CrosswordDraws& draws) {
   Built built;
   GridBuilder builder(shared, draws, [&](int value) { built.progress.push_back(value); });
   builder.Build();
@@ -43,14 +43,14 @@ Built Build(SharedState shared, GivenDraws& draws) {
 }
 
 Built BuildFrom(const PuzzleWish& wish, std::vector<double> draws) {
-  GivenDraws source(std::move(draws));
+  CrosswordDraws source(std::move(draws));
   Built built = Build(StateFor(wish), source);
   EXPECT_TRUE(source.AllUsed()) << "draws were left over";
   return built;
 }
 
 Built BuildSeeded(const PuzzleWish& wish, std::uint64_t seed, std::vector<double> draws = {}) {
-  GivenDraws source(std::move(draws), seed);
+  CrosswordDraws source(std::move(draws), seed);
   return Build(StateFor(wish), source);
 }
 
@@ -388,7 +388,7 @@ TEST(GridBuilder, GivesUpOnWordsWithoutLetters) {
 
 TEST(GridBuilder, RestartsWithoutEndAreOutOfStackSpace) {
   SharedState shared = StateFor({.words = {"", ""}, .slider = 200, .best = true});
-  GivenDraws draws({}, 1);
+  CrosswordDraws draws({}, 1);
   GridBuilder builder(shared, draws);
   EXPECT_FAULT(28, builder.Build());
   EXPECT_EQ(builder.DeepestRestart(), 9999);
@@ -396,7 +396,7 @@ TEST(GridBuilder, RestartsWithoutEndAreOutOfStackSpace) {
 
 TEST(GridBuilder, AWordOf18LettersIsRefused) {
   SharedState shared = StateFor({.words = {"abcdefghijklmnopqr"}});
-  GivenDraws draws({}, 1);
+  CrosswordDraws draws({}, 1);
   GridBuilder builder(shared, draws);
   EXPECT_FAULT(9, builder.Build());
 }
@@ -495,12 +495,12 @@ TEST(GridBuilder, TheBarOfBestModeStopsShortOfItsEnd) {
 
 TEST(GridBuilder, ARemakeOfTheBestPuzzleMarksTheWordsOfTheLastOrder) {
   SharedState shared = StateFor({.words = {"ab", "bc", "cd", "de"}, .slider = 20, .best = true});
-  GivenDraws first({DrawOf(3, 4)}, 1);
+  CrosswordDraws first({DrawOf(3, 4)}, 1);
   GridBuilder(shared, first).Build();
   ASSERT_EQ(WordOrder(shared), (std::vector<int>{3, 2, 2, 4}));
   // Word 1 was not in the order and has lost its mark; for the next draw 4 is ready again.
   shared.WordMarks(1) = 0;
-  GivenDraws second({DrawOf(1, 4), DrawOf(4, 4)}, 1);
+  CrosswordDraws second({DrawOf(1, 4), DrawOf(4, 4)}, 1);
   GridBuilder(shared, second).Build();
   EXPECT_EQ(WordOrder(shared), (std::vector<int>{4, 2, 3, 3}));
 }

@@ -93,7 +93,7 @@ TEST(Numbering, ABestPuzzleOfAnEasyLongListHasMoreStartCellsThanThereAreNumbers)
   // Short words of three letters in all cross each other by the hundred.
   SharedState shared =
       StateFor({.words = WordMaker(4).Words(300, 3, 2, 3), .slider = 200, .best = true});
-  GivenDraws draws({DrawOf(1, 300)}, 9);
+  CrosswordDraws draws({DrawOf(1, 300)}, 9);
   GridBuilder builder(shared, draws);
   builder.Build();
   EXPECT_FAULT(9, NumberGrid(builder.grid(), shared.MarkedCount));
@@ -219,7 +219,7 @@ TEST(Numbering, TheTwiceListedWordOfABestPuzzleHasOneClue) {
   // TACT's column, the other on top of it.
   SharedState shared = StateFor({.words = {"x", "at", "tact"}, .slider = 20, .best = true});
   shared.WorksheetTitle = std::string(50, 'T');
-  GivenDraws draws({DrawOf(3, 3), 0, 0, 0, 0, 0});
+  CrosswordDraws draws({DrawOf(3, 3), 0, 0, 0, 0, 0});
   GridBuilder builder(shared, draws);
   builder.Build();
   ASSERT_TRUE(draws.AllUsed());
