@@ -5,11 +5,13 @@ here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
 tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libgl-dev libgtest-dev python3 \
-  fonts-liberation poppler-utils xvfb xauth
+  fonts-liberation poppler-utils xvfb xauth libreoffice-writer-nogui clang
 
 echo "Building in $here/build/check ..."
 [ -f build/check/build.ninja ] || cmake --preset check
 cmake --build --preset check
+
+tools/fuzz.sh 60
 
 echo "Testing ..."
 ctest --preset check

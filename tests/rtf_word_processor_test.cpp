@@ -141,6 +141,24 @@ TEST_F(WordProcessor, ReadsOurFileAsItIs) {
   EXPECT_GE(Count(fonts, "LiberationSerif|TimesNewRoman"), 1U) << fonts;
 }
 
+// With the fonts that the program's package installs beside it.
+TEST_F(WordProcessor, ShowsTheMisspeltFontInAFixedPitch) {
+  folder_.Write("fonts.conf",
+                "<?xml version=\"1.0\"?><fontconfig><include>/etc/fonts/fonts.conf</include>"
+                "<include>" FONT_ALIAS "</include></fontconfig>");
+  Sheet sheet;
+  sheet.SelFontName(compose::kCourrier);
+  sheet.SelFontSize(10);
+  sheet.SelText(kRule);
+  folder_.Write("rule.rtf", WriteRtf(sheet));
+  setenv("FONTCONFIG_FILE", (folder_.Path() / "fonts.conf").c_str(), 1);
+  ASSERT_NO_FATAL_FAILURE(Convert("rule.rtf", "page", "pdf"));
+  unsetenv("FONTCONFIG_FILE");
+  const std::string fonts = Output("pdffonts page/rule.pdf");
+  EXPECT_EQ(Count(fonts, "LiberationMono|CourierNew"), 1U) << fonts;
+  EXPECT_EQ(Count(fonts, "yes"), 3U) << fonts;  // one font in all: embedded, a part, in Unicode
+}
+
 TEST_F(WordProcessor, WritesOurFileBackTheSame) {
   Sheet sheet;
   ComposeSheet(sheet);
