@@ -22,7 +22,8 @@ using rtf_tools::TextOf;
 constexpr char kFonts[] = "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\n{\\fonttbl";
 constexpr char kCourierNew[] = "{\\f0\\fmodern\\fprq1\\fcharset0 Courier New;}";
 constexpr char kPage[] =
-    "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\n\\pard\\plain";
+    "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\\dntblnsbdb\n\\pard\\plai"
+    "n";
 
 // The whole file of a text in the box's own font.
 std::string File(std::string_view text) {

@@ -33,26 +33,31 @@ char32_t Decoded(char byte) {
   return IsPlain(code) ? code : code_page::ToUnicode(byte);
 }
 
-// Bytes or characters as the document keeps them: every line end one '\n', and U+FFFD for what
-// makes no sense.
-template <class Character>
-void Clean(std::basic_string_view<Character> raw, bool has_picture, std::u32string& clean) {
-  clean.resize(raw.size());
-  auto to = clean.begin();
+// Bytes or characters as the document keeps them, put one by one: every line end one '\n', and
+// U+FFFD for what makes no sense.
+template <class Character, class Put>
+void PutClean(std::basic_string_view<Character> raw, bool has_picture, Put put) {
   bool behind_return = false;
   for (const Character character : raw) {
     const char32_t c = Decoded(character);
     if (IsPlain(c)) {
-      *to++ = c;
+      put(c);
     } else if (c == U'\n') {
-      if (!behind_return) *to++ = kLineEnd;
+      if (!behind_return) put(kLineEnd);
     } else if (c == U'\r' || c == kParagraphSeparator) {
-      *to++ = kLineEnd;
+      put(kLineEnd);
     } else {
-      *to++ = MakesSense(c) && (c != kPicture || has_picture) ? c : kReplacement;
+      put(MakesSense(c) && (c != kPicture || has_picture) ? c : kReplacement);
     }
     behind_return = c == U'\r';
   }
+}
+
+template <class Character>
+void Clean(std::basic_string_view<Character> raw, bool has_picture, std::u32string& clean) {
+  clean.resize(raw.size());
+  auto to = clean.begin();
+  PutClean(raw, has_picture, [&to](char32_t c) { *to++ = c; });
   clean.erase(to, clean.end());
 }
 
@@ -294,31 +299,78 @@ void RichText::Clear() {
   SpliceAll(Alignment::Left);
 }
 
-void RichText::Load(const RichContent& content) {
-  std::vector<std::uint32_t> text_ids, picture_ids;
-  for (const CharFormat& format : content.formats) {
-    text_ids.push_back(InternWithoutPicture(format));
-    picture_ids.push_back(Intern(format));
+RichContent RichText::Content() const {
+  constexpr std::size_t kUnused = static_cast<std::size_t>(-1);
+  RichContent content;
+  content.text.resize(static_cast<std::size_t>(Length()));
+  content.alignments.reserve(static_cast<std::size_t>(line_ends_) + 1);
+  content.alignments.push_back(first_alignment_);
+  std::vector<std::size_t> indexes(formats_.size(), kUnused);
+  char32_t* to = content.text.data();
+  for (int i = 0; i < Length();) {
+    const std::uint32_t id = cells_[i].format;
+    if (indexes[id] == kUnused) {
+      indexes[id] = content.formats.size();
+      content.formats.push_back(Format(id));
+    }
+    const int start = i;
+    for (; i < Length() && cells_[i].format == id; ++i) {
+      const Cell cell = cells_[i];
+      *to++ = cell.character;
+      if (cell.character == kLineEnd) content.alignments.push_back(AlignmentBehind(i));
+    }
+    content.spans.push_back({static_cast<std::size_t>(i - start), indexes[id]});
   }
+  return content;
+}
 
+void RichText::Load(const RichContent& content) {
   const Stretch before = Selection();
   const int removed = Length();
   cells_.Remove(0, removed);
   line_ends_ = 0;
+  auto next = content.alignments.begin();
+  const auto next_alignment = [&] {
+    return next == content.alignments.end() ? Alignment::Left : *next++;
+  };
+  first_alignment_ = next_alignment();
+
+  std::vector<std::uint32_t> ids;
+  for (const CharFormat& format : content.formats) ids.push_back(Intern(format));
   std::u32string_view rest = content.text;
   for (const RichContent::Span& span : content.spans) {
-    const CharFormat& format = content.formats[span.format];
-    Clean(rest.substr(0, span.length), format.picture != nullptr, incoming_);
-    Splice({Length(), 0}, text_ids[span.format], picture_ids[span.format]);
+    Append(rest.substr(0, span.length), ids[span.format], next_alignment);
     rest.remove_prefix(span.length);
   }
-  AlignAll(content.alignments);
   caret_ = 0;
   selected_ = 0;
   caret_format_ = FormatAtCaret();
 
   Report(&RichTextObserver::Replaced, 0, removed, Length());
   if (before.position > 0 || before.count > 0) Report(&RichTextObserver::CaretMoved);
+}
+
+template <class NextAlignment>
+void RichText::Append(std::u32string_view text, std::uint32_t picture_format,
+                      NextAlignment next_alignment) {
+  const bool has_picture = Format(picture_format).picture != nullptr;
+  const std::uint32_t text_format =
+      has_picture ? InternWithoutPicture(Format(picture_format)) : picture_format;
+  const int start = Length();
+  Cell* const cells = cells_.Insert(start, static_cast<int>(text.size()));
+  Cell* cell = cells;
+  PutClean(text, has_picture, [&](char32_t c) {
+    Cell appended{.character = c & 0x1FFFFF, .alignment = 0, .format = text_format};
+    if (c == kLineEnd) {
+      appended.alignment = static_cast<std::uint32_t>(next_alignment()) & 3;
+      ++line_ends_;
+    } else if (c == kPicture) {
+      appended.format = picture_format;
+    }
+    *cell++ = appended;
+  });
+  const int length = start + static_cast<int>(cell - cells);
+  cells_.Remove(length, Length() - length);
 }
 
 // --- Observers
@@ -469,17 +521,6 @@ void RichText::SpliceAll(Alignment alignment) {
   caret_format_ = design_format_;
   Report(&RichTextObserver::Replaced, 0, removed, inserted);
   if (before.position > 0 || before.count > 0) Report(&RichTextObserver::CaretMoved);
-}
-
-void RichText::AlignAll(const std::vector<Alignment>& alignments) {
-  auto next = alignments.begin();
-  const auto take = [&] { return next == alignments.end() ? Alignment::Left : *next++; };
-  first_alignment_ = take();
-  for (int i = 0; i < Length(); ++i) {
-    if (cells_[i].character == kLineEnd) {
-      cells_[i].alignment = static_cast<std::uint32_t>(take()) & 3;
-    }
-  }
 }
 
 void RichText::Select(int position, int length) {

@@ -195,6 +195,8 @@ class RichText {
   // An empty document, aligned left, the caret format the design font.
   void Clear();
 
+  // The whole document. Its formats are those in use, in the order of their first use.
+  RichContent Content() const;
   // Replaces the document, in one change. The caret goes to 0 and takes the format there. Every
   // span comes in as if it were inserted alone; paragraphs without an alignment are aligned left.
   void Load(const RichContent& content);
@@ -239,7 +241,8 @@ class RichText {
   int Splice(const Stretch& removed, std::uint32_t text_format, std::uint32_t picture_format);
   void SpliceSelection(std::uint32_t picture_format);
   void SpliceAll(Alignment alignment);
-  void AlignAll(const std::vector<Alignment>& alignments);
+  template <class NextAlignment>
+  void Append(std::u32string_view text, std::uint32_t picture_format, NextAlignment next_alignment);
   void Select(int position, int length);
 
   // Whether a format changed; `change` alters a CharFormat in place.

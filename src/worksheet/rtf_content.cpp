@@ -100,7 +100,9 @@ RichContent RtfContent::Take(Alignment last) && {
   } else {
     content_.alignments.push_back(last);
   }
-  RequireBearableHeight();
+  if (HeightAtMost() > kTallest && Height() > kTallest) {
+    throw RunTimeError(Fault::InvalidFormat);
+  }
   return std::move(content_);
 }
 
@@ -115,7 +117,21 @@ void RtfContent::StartCells() {
   for (; cells_ > 0; --cells_) content_.text.push_back(U'\t');
 }
 
-void RtfContent::RequireBearableHeight() const {
+// The height if every line were as high as the highest, which is bearable as a rule.
+std::int64_t RtfContent::HeightAtMost() const {
+  std::int64_t line_height = 0;
+  std::int64_t width = 0;
+  for (const CharFormat& format : content_.formats) {
+    line_height = std::max(line_height, LineHeight(format));
+  }
+  for (const RichContent::Span& span : content_.spans) {
+    width += static_cast<std::int64_t>(span.length) * Width(content_.formats[span.format]);
+  }
+  const auto lines = static_cast<std::int64_t>(content_.alignments.size());
+  return line_height * (lines + width / kColumn);
+}
+
+std::int64_t RtfContent::Height() const {
   std::int64_t height = 0;
   std::int64_t line_height = 0;
   std::int64_t width = 0;
@@ -136,7 +152,7 @@ void RtfContent::RequireBearableHeight() const {
     }
   }
   height += line_height * (1 + width / kColumn);
-  if (height > kTallest) throw RunTimeError(Fault::InvalidFormat);
+  return height;
 }
 
 }  // namespace brindlepage

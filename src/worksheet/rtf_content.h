@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 
@@ -36,7 +37,9 @@ class RtfContent {
  private:
   void EndSpan();
   void StartCells();
-  void RequireBearableHeight() const;
+  // On paper, in twips, roughly.
+  std::int64_t HeightAtMost() const;
+  std::int64_t Height() const;
 
   RichContent content_;
   std::size_t format_ = 0;

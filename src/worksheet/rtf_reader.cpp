@@ -389,16 +389,22 @@ void Reader::TakeUnicode(int number) {
 }
 
 void Reader::TakeHex(std::string_view digits, std::string& to) {
+  const std::size_t start = to.size();
+  to.resize(start + digits.size() / 2 + 1);
+  char* next = to.data() + start;
+  int high = high_digit_;
   for (const char digit : digits) {
     const int value = HexValue(static_cast<unsigned char>(digit));
     if (value < 0) continue;
-    if (high_digit_ < 0) {
-      high_digit_ = value;
+    if (high < 0) {
+      high = value;
     } else {
-      to.push_back(static_cast<char>(high_digit_ << 4 | value));
-      high_digit_ = -1;
+      *next++ = static_cast<char>(high << 4 | value);
+      high = -1;
     }
   }
+  high_digit_ = high;
+  to.resize(static_cast<std::size_t>(next - to.data()));
 }
 
 // --- Control words

@@ -22,19 +22,6 @@ constexpr std::array<std::uint8_t, 256> kClasses = [] {
   return classes;
 }();
 
-constexpr std::array<std::int8_t, 256> kHexValues = [] {
-  std::array<std::int8_t, 256> values{};
-  values.fill(-1);
-  for (int digit = 0; digit < 10; ++digit) {
-    values['0' + static_cast<std::size_t>(digit)] = static_cast<std::int8_t>(digit);
-  }
-  for (int digit = 10; digit < 16; ++digit) {
-    values['a' + static_cast<std::size_t>(digit) - 10] = static_cast<std::int8_t>(digit);
-    values['A' + static_cast<std::size_t>(digit) - 10] = static_cast<std::int8_t>(digit);
-  }
-  return values;
-}();
-
 bool IsLetter(unsigned char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
 bool IsDigit(unsigned char c) { return c >= '0' && c <= '9'; }
 
@@ -46,8 +33,6 @@ int Cut(std::int64_t number) {
 }
 
 }  // namespace
-
-int HexValue(unsigned char digit) { return kHexValues[digit]; }
 
 unsigned char RtfTokenizer::At(std::size_t position) const {
   return static_cast<unsigned char>(bytes_[position]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string_view>
 
@@ -50,6 +51,19 @@ class RtfTokenizer {
 };
 
 // The value of a hexadecimal digit, or -1.
-int HexValue(unsigned char digit);
+inline int HexValue(unsigned char digit) {
+  static constexpr auto kValues = [] {
+    std::array<signed char, 256> values{};
+    values.fill(-1);
+    for (int value = 0; value < 16; ++value) {
+      values[static_cast<unsigned char>("0123456789abcdef"[value])] =
+          static_cast<signed char>(value);
+      values[static_cast<unsigned char>("0123456789ABCDEF"[value])] =
+          static_cast<signed char>(value);
+    }
+    return values;
+  }();
+  return kValues[digit];
+}
 
 }  // namespace brindlepage

@@ -4,9 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "toolkit/code_page.h"
@@ -19,8 +19,10 @@ namespace brindlepage {
 
 namespace {
 
-// Letter, in twips, with a text column of seven and a half inches.
-constexpr char kPage[] = "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\n";
+// Letter, in twips, with a text column of seven and a half inches. Blanks side by side keep their
+// width, instead of being made as wide as a character of another script.
+constexpr char kPage[] =
+    "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\\dntblnsbdb\n";
 constexpr char kUsualFont[] = "Courier New";  // of an empty document
 constexpr char32_t kPicture = 0xFFFC;
 
@@ -53,25 +55,17 @@ class Numbered {
 
 class Writer {
  public:
-  explicit Writer(const RichText& document)
-      : document_(document), text_(document.PlainText()), paragraphs_(document.Paragraphs()) {}
+  explicit Writer(RichContent&& content) : content_(std::move(content)) {}
 
   std::string Write();
 
  private:
-  struct Span {
-    std::size_t start;
-    std::size_t end;
-    std::uint32_t format;
-  };
-
-  void FindSpans();
   void NumberLooks();
   void ReserveRoom();
   void WriteTables();
   void WriteFont(std::size_t number, const std::string& name);
   void WriteLooks(const RtfLooks& looks);
-  void WriteSpan(const Span& span);
+  void WriteSpan(std::u32string_view text, std::size_t format);
   void WriteAlignment();
   void EndParagraph();
   void WritePlain(std::u32string_view text);
@@ -100,14 +94,10 @@ class Writer {
     behind_word_ = false;
   }
 
-  const RichText& document_;
-  const std::u32string text_;
-  const std::vector<RichText::Paragraph> paragraphs_;
-  std::vector<Span> spans_;
-
+  const RichContent content_;
   Numbered<std::string> fonts_;
   Numbered<std::uint32_t> colors_;
-  std::vector<std::optional<RtfLooks>> numbered_;  // by format id
+  std::vector<RtfLooks> numbered_;  // of each format
 
   std::string rtf_;
   RtfLooks looks_{.font = -1, .size = 0};  // none that a text can have
@@ -117,14 +107,17 @@ class Writer {
 };
 
 std::string Writer::Write() {
-  FindSpans();
   NumberLooks();
   ReserveRoom();
   WriteTables();
   Add(kPage);
   Word("\\pard\\plain");
   WriteAlignment();
-  for (const Span& span : spans_) WriteSpan(span);
+  std::u32string_view rest = content_.text;
+  for (const RichContent::Span& span : content_.spans) {
+    WriteSpan(rest.substr(0, span.length), span.format);
+    rest.remove_prefix(span.length);
+  }
   EndParagraph();
   Add("}");
   return std::move(rtf_);
@@ -132,37 +125,25 @@ std::string Writer::Write() {
 
 // --- What the document holds
 
-void Writer::FindSpans() {
-  for (std::size_t i = 0; i < text_.size(); ++i) {
-    const std::uint32_t format = document_.FormatIdAt(static_cast<int>(i));
-    if (spans_.empty() || spans_.back().format != format) spans_.push_back({i, i, format});
-    spans_.back().end = i + 1;
-  }
-}
-
 void Writer::NumberLooks() {
   colors_.Of(0);  // the automatic colour
-  for (const Span& span : spans_) {
-    if (numbered_.size() <= span.format) numbered_.resize(span.format + 1);
-    std::optional<RtfLooks>& looks = numbered_[span.format];
-    if (looks) continue;
-    const CharFormat& format = document_.Format(span.format);
-    looks = {.font = fonts_.Of(format.font.substr(0, RtfFonts::kLongestName)),
-             .size = std::clamp(format.size, kRtfSmallest, kRtfBiggest),
-             .color = colors_.Of(format.color & 0xFFFFFF),
-             .bold = format.bold,
-             .italic = format.italic,
-             .underline = format.underline};
+  for (const CharFormat& format : content_.formats) {
+    numbered_.push_back({.font = fonts_.Of(format.font.substr(0, RtfFonts::kLongestName)),
+                         .size = std::clamp(format.size, kRtfSmallest, kRtfBiggest),
+                         .color = colors_.Of(format.color & 0xFFFFFF),
+                         .bold = format.bold,
+                         .italic = format.italic,
+                         .underline = format.underline});
   }
-  if (spans_.empty()) fonts_.Of(kUsualFont);
+  if (content_.formats.empty()) fonts_.Of(kUsualFont);
 }
 
 void Writer::ReserveRoom() {
-  std::size_t room =
-      4096 + text_.size() + text_.size() / 8 + 16 * spans_.size() + 8 * paragraphs_.size();
-  for (const Span& span : spans_) {
-    const auto& picture = document_.Format(span.format).picture;
-    if (picture) room += (span.end - span.start) * (256 + picture->bytes.size() * 33 / 16);
+  std::size_t room = 4096 + content_.text.size() + content_.text.size() / 8 +
+                     16 * content_.spans.size() + 8 * content_.alignments.size();
+  for (const RichContent::Span& span : content_.spans) {
+    const auto& picture = content_.formats[span.format].picture;
+    if (picture) room += span.length * (256 + picture->bytes.size() * 33 / 16);
   }
   rtf_.reserve(room);
 }
@@ -221,18 +202,15 @@ void Writer::WriteLooks(const RtfLooks& looks) {
   looks_ = looks;
 }
 
-void Writer::WriteSpan(const Span& span) {
-  WriteLooks(*numbered_[span.format]);
-  const RichPicture* const picture = document_.Format(span.format).picture.get();
-  for (std::size_t i = span.start; i < span.end;) {
-    std::size_t plain_end = i;
-    while (plain_end < span.end && IsPlain(text_[plain_end])) ++plain_end;
-    if (plain_end > i) {
-      WritePlain(std::u32string_view(text_).substr(i, plain_end - i));
-      i = plain_end;
-      continue;
-    }
-    const char32_t odd = text_[i++];
+void Writer::WriteSpan(std::u32string_view text, std::size_t format) {
+  WriteLooks(numbered_[format]);
+  const RichPicture* const picture = content_.formats[format].picture.get();
+  for (std::size_t i = 0; i < text.size();) {
+    const std::size_t start = i;
+    while (i < text.size() && IsPlain(text[i])) ++i;
+    if (i > start) WritePlain(text.substr(start, i - start));
+    if (i == text.size()) return;
+    const char32_t odd = text[i++];
     if (odd == U'\n') {
       EndParagraph();
       ++paragraph_;
@@ -246,7 +224,7 @@ void Writer::WriteSpan(const Span& span) {
 }
 
 void Writer::WriteAlignment() {
-  const Alignment alignment = paragraphs_[paragraph_].alignment;
+  const Alignment alignment = content_.alignments[paragraph_];
   if (alignment == alignment_) return;
   alignment_ = alignment;
   Word(alignment == Alignment::Left ? "\\ql" : alignment == Alignment::Right ? "\\qr" : "\\qc");
@@ -349,6 +327,6 @@ void Writer::WriteHex(std::string_view bytes) {
 
 }  // namespace
 
-std::string WriteRtf(const RichText& document) { return Writer(document).Write(); }
+std::string WriteRtf(const RichText& document) { return Writer(document.Content()).Write(); }
 
 }  // namespace brindlepage
