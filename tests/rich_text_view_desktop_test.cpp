@@ -10,10 +10,8 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -23,6 +21,7 @@
 #include <sstream>
 
 #include "desktop/rich_text_view.h"
+#include "tests/printed_pages.h"
 #include "toolkit/code_page.h"
 #include "toolkit/form.h"
 #include "toolkit/random_source.h"
@@ -865,26 +864,10 @@ class APrintedSheet : public AnOpenSheet {
     printer.setPageSize(QPageSize(QPageSize::Letter));
     PrintRichText(box(), start, length, printer);
   }
-  // What a command of the PDF tools says of the pages, or a skipped test without these.
-  QString Ask(const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.start(tool, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
-  bool CanRead() const { return !QStandardPaths::findExecutable("pdftotext").isEmpty(); }
-  QStringList PageTexts() {
-    return Ask("pdftotext", {"-layout", file_, "-"}).split(u'\f', Qt::SkipEmptyParts);
-  }
   // The lines on paper and on screen on which something stands.
-  std::string PrintedLines() { return Written(PageTexts().join(u'\n')); }
-  std::string ShownLines() { return Written(QString::fromStdString(Lines(view->document()))); }
-  static std::string Written(const QString& text) {
-    QString written;
-    for (const QString& line : text.split(u'\n')) {
-      if (!line.trimmed().isEmpty()) written += line.simplified() + u'\n';
-    }
-    return written.toStdString();
+  std::string PrintedLines() { return pages::WrittenLines(file_); }
+  std::string ShownLines() {
+    return pages::Written(QString::fromStdString(Lines(view->document())));
   }
 
   QTemporaryDir folder_;
@@ -892,7 +875,6 @@ class APrintedSheet : public AnOpenSheet {
 };
 
 TEST_F(APrintedSheet, HasTheLinesOfTheScreenAtAnyZoom) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   Compose([](RichTextBox& box) {
     std::mt19937 draws(7);
     const std::string letters = "aceghilmostuwxyz.,-_";
@@ -908,11 +890,10 @@ TEST_F(APrintedSheet, HasTheLinesOfTheScreenAtAnyZoom) {
   view->Zoom(130);
   Print();
   EXPECT_EQ(PrintedLines(), ShownLines());
-  EXPECT_GT(PageTexts().size(), 2);
+  EXPECT_GT(pages::Texts(file_).size(), 2);
 }
 
 TEST_F(APrintedSheet, BreaksPagesBetweenLinesAndNumbersNone) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   Compose([](RichTextBox& box) {
     for (int i = 1; i <= 100; ++i) box.SelText("line" + std::to_string(i) + "x\n");
   });
@@ -920,22 +901,20 @@ TEST_F(APrintedSheet, BreaksPagesBetweenLinesAndNumbersNone) {
   std::string lines;
   for (int i = 1; i <= 100; ++i) lines += "line" + std::to_string(i) + "x\n";
   EXPECT_EQ(PrintedLines(), lines);
-  EXPECT_EQ(PageTexts().size(), 2);
+  EXPECT_EQ(pages::Texts(file_).size(), 2);
 }
 
 TEST_F(APrintedSheet, BlanksAtTheEndTakeNoPage) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   Compose([](RichTextBox& box) {
     box.SelText("word");
     for (int i = 0; i < 200; ++i) box.SelText("   \n");
     box.SelText(std::string(9000, ' '));
   });
   Print();
-  EXPECT_TRUE(Ask("pdfinfo", {file_}).contains(QRegularExpression("Pages:\\s+1\n")));
+  EXPECT_TRUE(pages::Ask("pdfinfo", {file_}).contains(QRegularExpression("Pages:\\s+1\n")));
 }
 
 TEST_F(APrintedSheet, OfASelectionHoldsTheSelectionAlone) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   Compose([](RichTextBox& box) { box.SelText("one\ntwo\nthree"); });
   Print(4, 3);
   EXPECT_EQ(PrintedLines(), "two\n");
@@ -944,10 +923,9 @@ TEST_F(APrintedSheet, OfASelectionHoldsTheSelectionAlone) {
 }
 
 TEST_F(APrintedSheet, HoldsThePictures) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   Compose([](RichTextBox& box) { box.InsertPicture(RedPicture()); });
   Print();
-  EXPECT_TRUE(Ask("pdfimages", {"-list", file_}).contains(QRegularExpression("\\s4\\s+2\\s")));
+  EXPECT_TRUE(pages::Ask("pdfimages", {"-list", file_}).contains(QRegularExpression("\\s4\\s+2\\s")));
 }
 
 TEST_F(APrintedSheet, OnAPrinterThatCantBeUsedIsADeviceError) {

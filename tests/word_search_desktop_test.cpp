@@ -171,7 +171,7 @@ TEST_F(AWordSearchOnScreen, HasItsWordsInStraightColumns) {
 }
 
 TEST_F(AWordSearchOnScreen, IsPrintedLineByLineAndBreaksPagesBetweenRowsOnly) {
-  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "needs pdftotext";
+  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   for (const int bank : {1, 2}) {
     OpenLargest(bank);
     const QStringList pages = PrintedPages(form().QuizBox);
@@ -189,7 +189,7 @@ TEST_F(AWordSearchOnScreen, IsPrintedLineByLineAndBreaksPagesBetweenRowsOnly) {
 }
 
 TEST_F(AWordSearchOnScreen, IsPrintedWithWholeRowsWhereAPageEndsInThePuzzle) {
-  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "needs pdftotext";
+  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   OpenLargest(1);
   desktop_->loop().Dispatch([&] {
     form().QuizBox.SelStart(0);
@@ -205,7 +205,7 @@ TEST_F(AWordSearchOnScreen, IsPrintedWithWholeRowsWhereAPageEndsInThePuzzle) {
 }
 
 TEST_F(AWordSearchOnScreen, HasAKeyThatIsPrintedOnOnePage) {
-  if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "needs pdftotext";
+  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   OpenLargest(1);
   const QStringList pages = PrintedPages(form().AnswerBox);
   EXPECT_EQ(pages.size(), 1);
