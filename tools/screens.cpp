@@ -171,6 +171,22 @@ Step Photo(QString name) {
   return [=](Photographer& photographer) { photographer.TakeAs(name); };
 }
 
+// A quiz of the kind of that option button, and its key.
+Walk Quiz(const char* kind) {
+  const QString name = QString("QuizForm-") + kind;
+  return {Click("Title", "Command1", 3),
+          Select("ChooseList", "TheLists", 1),
+          Click("ChooseList", "Command1"),
+          Click("QuizOptions3", kind),
+          Click("QuizOptions3", "Command1"),
+          Click("QuizOptions5", "Command1"),
+          Click("PickWords", "ChooseRandom"),
+          Click("PickWords", "Command2"),
+          Photo(name),
+          Tool("QuizForm", "Key"),
+          Photo(name + "-key")};
+}
+
 std::vector<Walk> Walks() {
   return {
       {Tool("Title", "Info")},
@@ -208,11 +224,17 @@ std::vector<Walk> Walks() {
        Photo("ChooseRiddle-second"), Click("ChooseRiddle", "Command2"),
        Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
        Click("PickWords", "Command2"), Tool("RiddleForm", "Key"), Photo("RiddleForm-key")},
-      // A quiz.
-      {Click("Title", "Command1", 3), Select("ChooseList", "TheLists", 1),
-       Click("ChooseList", "Command1"), Click("QuizOptions3", "Command1"),
-       Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
-       Click("PickWords", "Command2")},
+      // The quizzes.
+      Quiz("MC"),
+      Quiz("MC2"),
+      Quiz("Match"),
+      Quiz("FillNo"),
+      Quiz("FillYes"),
+      // The alphabetize sheet.
+      {Click("Title", "Command4"), Select("ChooseList", "TheLists", 1),
+       Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
+       Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"),
+       Photo("QuizForm-alphabetize"), Tool("QuizForm", "Key"), Photo("QuizForm-alphabetize-key")},
       // A word search.
       {Click("Title", "Command1", 0), Select("ChooseList", "TheLists", 1),
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
