@@ -95,7 +95,7 @@ class QuizProperties : public QuizTest {
 
   // Behind the heading and the directions.
   Reader Sheet() {
-    text_ = PlainText(quiz);
+    text_ = PlainBytes(quiz);
     Reader reader(text_);
     reader.Until("\nDirections: ");
     reader.Until("\n\n\n");
@@ -103,7 +103,7 @@ class QuizProperties : public QuizTest {
   }
   // The key's answers, from element 0.
   Lines KeyAnswers(const std::string& line_end) {
-    key_text_ = PlainText(key);
+    key_text_ = PlainBytes(key);
     Reader reader(key_text_);
     reader.Skip("\nTitle\nAnswer Key\n\n");
     Lines answers;

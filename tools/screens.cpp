@@ -224,6 +224,7 @@ std::vector<Walk> Walks() {
        Photo("ChooseRiddle-second"), Click("ChooseRiddle", "Command2"),
        Click("QuizOptions5", "Command1"), Click("PickWords", "ChooseRandom"),
        Click("PickWords", "Command2"), Tool("RiddleForm", "Key"), Photo("RiddleForm-key")},
+      // The quizzes.
       Quiz("MC"),
       Quiz("MC2"),
       Quiz("Match"),
