@@ -476,6 +476,59 @@ TEST(RtfReader, ABrokenPictureIsKeptAsItCame) {
   EXPECT_EQ(PictureOf(Sheet(PictureFile("{\\pict\\jpegblip FFD8FFFF}"))).bytes, "\xFF\xD8\xFF\xFF");
 }
 
+// --- Files as they come from elsewhere
+
+TEST(RtfReader, ALargeWordProcessorsFileShowsItsText) {
+  EXPECT_EQ(
+      RunsOf(Sheet(
+          "{\\rtf1\\adeflang1025\\ansi\\ansicpg1252\\uc1\\adeff0\\deff0\\stshfdbch0\\stshfloch31506"
+          "\\deflang1033{\\fonttbl{\\f0\\fbidi \\froman\\fcharset0\\fprq2{\\*\\panose 02020603}"
+          "Times New Roman;}{\\f34\\fbidi \\froman\\fcharset0\\fprq2 Cambria Math;}"
+          "{\\flomajor\\f31500\\fbidi \\froman\\fcharset0\\fprq2 Times New Roman;}}\r\n"
+          "{\\colortbl;\\red0\\green0\\blue0;\\red0\\green0\\blue255;}{\\*\\defchp \\f31506}"
+          "{\\*\\defpap \\ql \\li0}\\noqfpromote {\\stylesheet{\\ql \\li0\\ri0\\widctlpar "
+          "\\rtlch\\fcs1 \\af0\\afs24 \\ltrch\\fcs0 \\fs24\\lang1033 \\snext0 \\sqformat Normal;}"
+          "{\\s1\\qc \\rtlch\\fcs1 \\ab \\ltrch\\fcs0 \\b\\fs32 \\sbasedon0 \\snext0 heading 1;}"
+          "{\\*\\cs10 \\additive Default Paragraph Font;}}{\\*\\rsidtbl \\rsid1}"
+          "{\\mmathPr\\mmathFont34\\mbrkBin0}{\\info{\\author Ann}{\\version2}}"
+          "{\\*\\xmlnstbl {\\xmlns1 x}}\\paperw12240\\margl1800 \\ftnbj\\viewkind1 "
+          "{\\*\\wgrffmtfilter 013f}{\\*\\ftnsep \\pard\\plain \\chftnsep \\par }\\sectd "
+          "{\\*\\pnseclvl1\\pnucrm\\pnstart1{\\pntxta .}}"
+          "\\pard\\plain \\ltrpar\\s1\\qc \\rtlch\\fcs1 \\ab\\af0 \\ltrch\\fcs0 \\b\\fs32 "
+          "{\\rtlch\\fcs1 \\af0 \\ltrch\\fcs0 \\insrsid1 Lava }{\\ltrch\\fcs0 \\b0\\insrsid1 "
+          "ash\r\n"
+          "\\par }\\pard\\plain \\ltrpar\\ql \\ltrch\\fcs0 \\fs24 {\\cf2\\insrsid1 "
+          "\\loch\\af0\\hich\\af0"
+          "\\dbch\\af0 it\\rquote s{\\*\\bkmkstart m}{\\*\\bkmkend m}\\par }"
+          "{\\*\\themedata 504b}{\\*\\latentstyles {\\lsdlockedexcept x;}}{\\*\\datastore 01}}")),
+      "paragraph centre\n"
+      "run \"Times New Roman\" 16 b-- 000000 \"Lava \"\n"
+      "run \"Times New Roman\" 16 --- 000000 \"ash\\n\"\n"
+      "paragraph left\n"
+      "run \"Times New Roman\" 12 --- 0000FF \"it’s\"\n");
+}
+
+TEST(RtfReader, ASimpleEditorsFileShowsItsText) {
+  EXPECT_EQ(
+      RunsOf(Sheet("{\\rtf1\\ansi\\ansicpg1252\\deff0\\nouicompat\\deflang1033{\\fonttbl{\\f0\\fnil"
+                   "\\fcharset0 Calibri;}}\r\n{\\*\\generator Editor 1.0}\\viewkind4\\uc1 \r\n"
+                   "\\pard\\sa200\\sl276\\slmult1\\qc\\b\\f0\\fs22\\lang9 Lava\\b0\\par\r\n"
+                   "\\pard\\sa200 ash\\par\r\n}\r\n\0"s)),
+      "paragraph centre\n"
+      "run \"Calibri\" 11 b-- 000000 \"Lava\"\nrun \"Calibri\" 11 --- 000000 \"\\n\"\n"
+      "paragraph left\nrun \"Calibri\" 11 --- 000000 \"ash\"\n");
+}
+
+TEST(RtfReader, AFileWithBackslashesAtTheLineEndsShowsItsText) {
+  EXPECT_EQ(RunsOf(Sheet("{\\rtf1\\ansi\\ansicpg1252\\cocoartf1\n"
+                         "{\\fonttbl\\f0\\fswiss\\fcharset0 Helvetica;}\n"
+                         "{\\colortbl;\\red255\\green255\\blue255;}\n{\\*\\expandedcolortbl;;}\n"
+                         "\\pard\\tx720\\pardirnatural\n\n\\f0\\fs24 \\cf0 Lava\\\n\\\nash}")),
+            "paragraph left\nrun \"Helvetica\" 12 --- 000000 \"Lava\\n\"\n"
+            "paragraph left\nrun \"Helvetica\" 12 --- 000000 \"\\n\"\n"
+            "paragraph left\nrun \"Helvetica\" 12 --- 000000 \"ash\"\n");
+}
+
 // --- Refusals
 
 void ExpectRefused(std::string_view bytes) {

@@ -19,6 +19,14 @@ constexpr std::int64_t kTallest = 160'000'000;  // twips; 700,000 lines of the u
 bool IsHighSurrogate(char32_t c) { return c >= 0xD800 && c < 0xDC00; }
 bool IsLowSurrogate(char32_t c) { return c >= 0xDC00 && c < 0xE000; }
 
+bool IsAscii(std::string_view bytes) {
+  unsigned char all = 0;
+  for (const char byte : bytes) all |= static_cast<unsigned char>(byte);
+  return all < 0x80;
+}
+// All code pages do, the signs in place of letters don't.
+bool KeepsAscii(const RtfCodePage& page) { return &page != &RtfSigns(); }
+
 // What a format's characters take on paper, roughly, in twips.
 std::int64_t LineHeight(const CharFormat& format) {
   const std::int64_t height = std::int64_t{format.size} * 23 / 20;
@@ -48,7 +56,11 @@ void RtfContent::Text(std::string_view bytes, const RtfCodePage& page) {
   const std::size_t start = text.size();
   text.resize(start + bytes.size());
   char32_t* to = text.data() + start;
-  for (const char byte : bytes) *to++ = page[static_cast<unsigned char>(byte)];
+  if (IsAscii(bytes) && KeepsAscii(page)) {
+    for (const char byte : bytes) *to++ = static_cast<unsigned char>(byte);
+  } else {
+    for (const char byte : bytes) *to++ = page[static_cast<unsigned char>(byte)];
+  }
 }
 
 void RtfContent::Character(char32_t character, Alignment alignment) {

@@ -6,8 +6,14 @@ namespace brindlepage {
 
 class RichText;
 
-// Replaces the document by a rich text file; the caret goes to 0. Bytes that are no rich text, or
-// that are cut or nested beyond reason, throw RunTimeError 321 and leave the document as it was.
+// Replaces the document by a rich text file (RTF 1.9), in one change; the caret goes to 0 and takes
+// the format there. Shown is what a document can hold: text, fonts, sizes, bold, italic, underline,
+// colours, alignment, styles, pictures, tables as lines with tabs, lists and fields as their text.
+// Pictures whose data are broken are kept as they are, those of an unknown kind left out.
+//
+// Bytes that are no rich text, that are cut, nest deeper than a thousand groups, claim data that
+// they don't have, or make a document too tall for a view (some 700,000 lines) throw RunTimeError
+// 321 and leave the document as it was.
 void ReadRtf(std::string_view bytes, RichText& document);
 
 }  // namespace brindlepage

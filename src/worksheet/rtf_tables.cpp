@@ -7,16 +7,6 @@
 
 namespace brindlepage {
 
-std::size_t RtfLooksHash::operator()(const RtfLooks& looks) const {
-  const auto part = [](int number) {
-    return static_cast<std::size_t>(static_cast<unsigned>(number));
-  };
-  std::size_t hash = part(looks.font);
-  hash = hash * 1000003 + part(looks.size);
-  hash = hash * 1000003 + part(looks.color);
-  return hash * 16 + 8U * looks.bold + 4U * looks.italic + 2U * looks.underline + looks.hidden;
-}
-
 // --- Fonts
 
 void RtfFonts::Begin(int number, const RtfCodePage& page) {

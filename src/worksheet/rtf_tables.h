@@ -31,7 +31,15 @@ struct RtfLooks {
 };
 
 struct RtfLooksHash {
-  std::size_t operator()(const RtfLooks& looks) const;
+  std::size_t operator()(const RtfLooks& looks) const noexcept {
+    constexpr std::size_t kFactor = 1000003;
+    const auto font = static_cast<std::size_t>(static_cast<unsigned>(looks.font));
+    const auto size = static_cast<std::size_t>(static_cast<unsigned>(looks.size));
+    const auto color = static_cast<std::size_t>(static_cast<unsigned>(looks.color));
+    const std::size_t style =
+        8U * looks.bold + 4U * looks.italic + 2U * looks.underline + 1U * looks.hidden;
+    return ((font * kFactor + size) * kFactor + color) * 16 + style;
+  }
 };
 
 // The font table, filled in the order of the file: an entry's number, its words, its name, its end.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 
 #include "toolkit/run_time_error.h"
@@ -21,6 +22,23 @@ constexpr std::array<std::uint8_t, 256> kClasses = [] {
   classes['\\'] = kBackslash;
   return classes;
 }();
+
+// Text comes in long stretches, so eight bytes are looked at as one number.
+using Block = std::uint64_t;
+constexpr Block kOnes = 0x0101010101010101;
+
+// Sure of no such byte, or nearly sure of one.
+constexpr bool MayHaveLess(Block bytes, Block limit) {
+  return ((bytes - kOnes * limit) & ~bytes & kOnes * 0x80) != 0;
+}
+constexpr bool MayHave(Block bytes, Block byte) { return MayHaveLess(bytes ^ kOnes * byte, 1); }
+
+bool IsTextBlock(const char* bytes) {
+  Block block;
+  std::memcpy(&block, bytes, sizeof block);
+  return !(MayHaveLess(block, 0x20) | MayHave(block, '\\') | MayHave(block, '{') |
+           MayHave(block, '}'));
+}
 
 bool IsLetter(unsigned char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
 bool IsDigit(unsigned char c) { return c >= '0' && c <= '9'; }
@@ -53,10 +71,17 @@ RtfToken RtfTokenizer::Next() {
       ++position_;
       return Control();
     default:
-      const std::size_t start = position_;
-      while (position_ < bytes_.size() && kClasses[At(position_)] == kText) ++position_;
-      return {RtfToken::Kind::Text, bytes_.substr(start, position_ - start)};
+      return Text();
   }
+}
+
+RtfToken RtfTokenizer::Text() {
+  const std::size_t start = position_;
+  while (bytes_.size() - position_ >= sizeof(Block) && IsTextBlock(bytes_.data() + position_)) {
+    position_ += sizeof(Block);
+  }
+  while (position_ < bytes_.size() && kClasses[At(position_)] == kText) ++position_;
+  return {RtfToken::Kind::Text, bytes_.substr(start, position_ - start)};
 }
 
 RtfToken RtfTokenizer::Control() {

@@ -39,6 +39,7 @@ class RtfTokenizer {
   RtfToken Next();
 
  private:
+  RtfToken Text();
   RtfToken Control();
   RtfToken Word();
   RtfToken Hex();

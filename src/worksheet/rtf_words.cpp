@@ -214,12 +214,20 @@ constexpr auto kTable = [] {
 
 constexpr std::size_t kLongest = 18;
 
+// Names are too short for the ways of the library to be worth their while.
+bool AreEqual(std::string_view left, std::string_view right) {
+  if (left.size() != right.size()) return false;
+  std::size_t i = 0;
+  while (i < left.size() && left[i] == right[i]) ++i;
+  return i == left.size();
+}
+
 }  // namespace
 
 RtfWord FindRtfWord(std::string_view name) {
   if (name.size() > kLongest) return {};
   for (std::size_t slot = Slot(name); !kTable[slot].name.empty(); slot = (slot + 1) % kSlots) {
-    if (kTable[slot].name == name) return kTable[slot].word;
+    if (AreEqual(kTable[slot].name, name)) return kTable[slot].word;
   }
   return {};
 }
