@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+#include <QPainter>
+#include <random>
+#include <string>
+
+#include "desktop/decode_picture.h"
+#include "desktop/picture_view.h"
+#include "tests/bitmaps.h"
+
+namespace brindlepage {
+namespace {
+
+std::string Encoded(const char* format, QSize size = {6, 4}) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  EXPECT_TRUE(image.save(&buffer, format, 100));
+  return bytes.toStdString();
+}
+
+// A red dot.
+std::string Gif() {
+  return std::string("GIF89a\1\0\1\0\x80\0\0\xFF\0\0\0\0\0,\0\0\0\0\1\0\1\0\0\2\2D\1\0;", 35);
+}
+
+// An icon (kind 1) or cursor (kind 2) that holds these PNG files.
+std::string Icon(int kind, const std::vector<std::string>& pngs) {
+  const auto number = [](std::size_t value, int size) {
+    return LittleEndian(static_cast<std::uint32_t>(value), size);
+  };
+  std::string icon = number(0, 2) + number(static_cast<std::size_t>(kind), 2);
+  icon += number(pngs.size(), 2);
+  std::size_t place = 6 + 16 * pngs.size();
+  for (const std::string& png : pngs) {
+    icon += number(0, 4) + number(1, 2) + number(32, 2) + number(png.size(), 4) + number(place, 4);
+    place += png.size();
+  }
+  for (const std::string& png : pngs) icon += png;
+  return icon;
+}
+
+std::string Record(std::uint32_t type, std::initializer_list<std::uint32_t> words) {
+  std::string record = LittleEndian(type, 4);
+  record += LittleEndian(static_cast<std::uint32_t>(8 + 4 * words.size()), 4);
+  for (const std::uint32_t word : words) record += LittleEndian(word, 4);
+  return record;
+}
+
+// An enhanced metafile of 200 by 100 units: a red box over its left half.
+std::string Emf() {
+  const std::string records = Record(39, {1, 0, 0x0000FF, 0}) +  // a red brush
+                              Record(37, {1}) +                  // is selected
+                              Record(43, {0, 0, 100, 100}) +     // a rectangle
+                              Record(14, {0, 16, 20});           // the end
+  const auto size = static_cast<std::uint32_t>(88 + records.size());
+  const std::string header = Record(1, {0,    0, 199, 99, 0, 0, 5200, 2600, 0x464D4520, 0x10000,
+                                        size, 5, 2,   0,  0, 0, 1024, 768,  320,        240});
+  return header + records;
+}
+
+void ExpectRed(const std::string& bytes, QSize size) {
+  const QImage image = DecodePicture(bytes);
+  ASSERT_EQ(image.size(), size);
+  const QColor color = image.pixelColor(image.width() / 4, image.height() / 2);
+  EXPECT_GT(color.red(), 240);
+  EXPECT_LT(color.green(), 15);
+  EXPECT_LT(color.blue(), 15);
+}
+
+TEST(DecodePicture, EveryKindOfTheCollectionIsRead) {
+  ExpectRed(Encoded("JPG"), {6, 4});
+  ExpectRed(Encoded("PNG"), {6, 4});
+  ExpectRed(BitmapFile(6, 4), {6, 4});
+  ExpectRed(OldBitmapFile(6, 4), {6, 4});
+  ExpectRed(Gif(), {1, 1});
+  ExpectRed(Icon(1, {Encoded("PNG")}), {6, 4});
+  ExpectRed(Icon(2, {Encoded("PNG")}), {6, 4});
+}
+
+TEST(DecodePicture, ABitmapWithoutItsFileHeaderIsReadLikeOneWithIt) {
+  ExpectRed(BitmapFile(6, 4).substr(14), {6, 4});
+  // Of eight bits, with a palette of as many colours as its header tells.
+  std::string palette = BitmapFile(4, 4).substr(14, 40);
+  palette.replace(14, 2, LittleEndian(8, 2)).replace(32, 4, LittleEndian(2, 4));
+  ExpectRed(palette + LittleEndian(0x0000FF, 4) + LittleEndian(0xFF0000, 4) + std::string(16, 1),
+            {4, 4});
+}
+
+TEST(DecodePicture, OfAnIconsSizesTheLargestIsShown) {
+  ExpectRed(Icon(1, {Encoded("PNG", {4, 4}), Encoded("PNG", {8, 8}), Encoded("PNG", {6, 6})}),
+            {8, 8});
+}
+
+TEST(DecodePicture, AnEnhancedMetafileIsDrawnInItsProportionsAsLargeAsPaperNeeds) {
+  const QImage image = DecodePicture(Emf());
+  ASSERT_EQ(image.width(), 2000);
+  EXPECT_NEAR(image.height(), 1000, 10);
+  EXPECT_EQ(image.pixelColor(500, 500), QColor(Qt::red));
+  EXPECT_EQ(image.pixelColor(1500, 500).alpha(), 0);
+}
+
+TEST(DecodePicture, BrokenPicturesAreNone) {
+  for (const std::string& broken :
+       {std::string(), std::string("no picture"), std::string("BM"), std::string("GIF89a"),
+        Encoded("PNG").substr(0, 20), Encoded("JPG").substr(0, 60), Icon(1, {"no picture"}),
+        BitmapFile(4, 4).substr(14, 30), Emf().substr(0, 90), Emf().substr(0, Emf().size() - 8)}) {
+    EXPECT_TRUE(DecodePicture(broken).isNull()) << broken.substr(0, 12);
+  }
+}
+
+TEST(DecodePicture, NoDamageToAMetafileDoesHarm) {
+  std::mt19937 draws(5);
+  for (int i = 0; i < 300; ++i) {
+    std::string damaged = Emf();
+    for (int dots = 0; dots < 4; ++dots) {
+      damaged[44 + draws() % (damaged.size() - 44)] = static_cast<char>(draws());
+    }
+    DecodePicture(damaged);
+  }
+}
+
+TEST(DecodePicture, AStretchedPictureHasTheSizeAskedForAndNoPictureHasNone) {
+  const std::string bytes = BitmapFile(6, 4);
+  const auto picture = std::make_shared<Picture>(Picture{"a.bmp", "bmp", bytes});
+  EXPECT_EQ(StretchedPicture(picture, {30, 50}).size(), QSize(30, 50));
+  EXPECT_TRUE(StretchedPicture(nullptr, {30, 50}).isNull());
+}
+
+}  // namespace
+}  // namespace brindlepage
