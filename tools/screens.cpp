@@ -11,6 +11,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPainter>
 #include <QPixmap>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
@@ -187,6 +188,26 @@ Walk Quiz(const char* kind) {
           Photo(name + "-key")};
 }
 
+// A picture in the program's folder.
+Step DrawSun() {
+  return [](Photographer&) {
+    QImage sun(160, 160, QImage::Format_RGB32);
+    sun.fill(Qt::white);
+    QPainter painter(&sun);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0xF0, 0x90, 0x20), 8));
+    painter.translate(80, 80);
+    for (int ray = 0; ray < 12; ++ray) {
+      painter.drawLine(52, 0, 72, 0);
+      painter.rotate(30);
+    }
+    painter.setBrush(QColor(0xFF, 0xD0, 0x40));
+    painter.drawEllipse(QPoint(), 40, 40);
+    painter.end();
+    if (!sun.save("sun.bmp")) std::fprintf(stderr, "can't write sun.bmp\n");
+  };
+}
+
 std::vector<Walk> Walks() {
   return {
       {Tool("Title", "Info")},
@@ -235,6 +256,15 @@ std::vector<Walk> Walks() {
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
        Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"),
        Photo("QuizForm-alphabetize"), Tool("QuizForm", "Key"), Photo("QuizForm-alphabetize-key")},
+      // The same, saved, opened again and given a picture.
+      {Click("Title", "Command1", 4), Select("ChooseList", "TheLists", 3),
+       Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
+       Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"), DrawSun(),
+       Tool("StudyGuideForm", "Save"), Click("StudyGuideForm", "Back"), Click("Title", "Command2"),
+       Select("OpenWorksheet", "File1", 0), Photo("OpenWorksheet-chosen"),
+       Click("OpenWorksheet", "Command1"), Tool("QuizForm", "Clipart"),
+       Select("AddPic", "File1", 0), Photo("AddPic-chosen"), Click("AddPic", "Command1"),
+       Photo("QuizForm-with-picture")},
       // A word search.
       {Click("Title", "Command1", 0), Select("ChooseList", "TheLists", 1),
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
