@@ -1,6 +1,6 @@
 #!/bin/sh
-# Plays a teacher who makes one sheet of every kind from the sample lists, and writes each sheet as
-# the walk prints it: make_sheets.sh WALK PROGRAM_FOLDER OUT_FOLDER
+# Plays a teacher who makes one sheet of every kind from the sample lists and saves each with its
+# answer key: make_sheets.sh WALK PROGRAM_FOLDER OUT_FOLDER
 set -eu
 walk=$(realpath "$1")
 program_folder=$(realpath "$2")
@@ -13,7 +13,13 @@ trap 'rm -rf "$folder"' EXIT
 cp -R "$program_folder/." "$folder/"
 
 for story in "$stories"/*.walk; do
-  sheet="$out/$(basename "$story" .walk).txt"
-  "$walk" --folder "$folder" "$story" >"$sheet"
-  echo "  $sheet"
+  if ! said=$("$walk" --folder "$folder" "$story" 2>&1); then
+    echo "$story went wrong:" >&2
+    echo "$said" >&2
+    exit 1
+  fi
+done
+for sheet in "$folder"/worksheets/*.rtf; do
+  cp "$sheet" "$out/"
+  echo "  $out/$(basename "$sheet")"
 done
