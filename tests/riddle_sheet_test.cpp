@@ -129,7 +129,7 @@ TEST_F(RiddleSheet, AnAnswerInNoWordStandsInBold) {
 }
 
 TEST_F(RiddleSheet, NumbersOfThreeDigitsPutTheRestOfTheirLineOutOfStep) {
-  shared.RiddleAnswer = std::string(99, '?') + "cb";
+  shared.RiddleAnswer = std::string(99, '?').append("cb");
   Mark({1});
   SeededRandom random(1);
   ComposeRiddleSheet(shared, random, box);
