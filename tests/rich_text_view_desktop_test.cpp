@@ -264,7 +264,7 @@ TEST_F(AnOpenSheet, ARuleOfNinetyUnderscoresIn10PointsStandsOnOneLine) {
     Compose([&](RichTextBox& box) {
       box.SelFontName(font);
       box.SelFontSize(10);
-      box.SelText(std::string(90, '_') + "\n" + std::string(91, '_'));
+      box.SelText(std::string(90, '_').append("\n").append(91, '_'));
     });
     EXPECT_EQ(Lines(view->document()),
               std::string(90, '_') + "\n" + std::string(90, '_') + "\n_\n");
@@ -857,11 +857,12 @@ TEST_F(AnOpenSheet, FindGoesFromPlaceToPlaceAndAroundTheEnd) {
 
 class APrintedSheet : public AnOpenSheet {
  protected:
-  void Print(int start = 0, int length = 0) {
+  void Print(int start = 0, int length = 0, const std::function<void(QPrinter&)>& told = {}) {
     QPrinter printer(QPrinter::HighResolution);
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(file_);
     printer.setPageSize(QPageSize(QPageSize::Letter));
+    if (told) told(printer);
     PrintRichText(box(), start, length, printer);
   }
   // The lines on paper and on screen on which something stands.
@@ -904,6 +905,33 @@ TEST_F(APrintedSheet, BreaksPagesBetweenLinesAndNumbersNone) {
   EXPECT_EQ(pages::Texts(file_).size(), 2);
 }
 
+TEST_F(APrintedSheet, ComesInAsManyCopiesAndInTheOrderThatTheDialogWasTold) {
+  Compose([](RichTextBox& box) {
+    box.SelFontSize(72);
+    for (int i = 1; i <= 11; ++i) box.SelText(std::to_string(i) + "\n");
+  });
+  const auto firsts = [&] {
+    QString first_lines;
+    for (const QString& page : pages::Texts(file_)) first_lines += page.simplified()[0] + u' ';
+    return first_lines.toStdString();
+  };
+  // Eight lines of 72 points stand on a page of 684 points.
+  Print();
+  EXPECT_EQ(firsts(), "1 9 ");
+  Print(0, 0, [](QPrinter& printer) {
+    printer.setCopyCount(2);
+    printer.setCollateCopies(true);
+  });
+  EXPECT_EQ(firsts(), "1 9 1 9 ");
+  Print(0, 0, [](QPrinter& printer) {
+    printer.setCopyCount(2);
+    printer.setCollateCopies(false);
+  });
+  EXPECT_EQ(firsts(), "1 1 9 9 ");
+  Print(0, 0, [](QPrinter& printer) { printer.setPageOrder(QPrinter::LastPageFirst); });
+  EXPECT_EQ(firsts(), "9 1 ");
+}
+
 TEST_F(APrintedSheet, BlanksAtTheEndTakeNoPage) {
   Compose([](RichTextBox& box) {
     box.SelText("word");
@@ -925,7 +953,8 @@ TEST_F(APrintedSheet, OfASelectionHoldsTheSelectionAlone) {
 TEST_F(APrintedSheet, HoldsThePictures) {
   Compose([](RichTextBox& box) { box.InsertPicture(RedPicture()); });
   Print();
-  EXPECT_TRUE(pages::Ask("pdfimages", {"-list", file_}).contains(QRegularExpression("\\s4\\s+2\\s")));
+  EXPECT_TRUE(
+      pages::Ask("pdfimages", {"-list", file_}).contains(QRegularExpression("\\s4\\s+2\\s")));
 }
 
 TEST_F(APrintedSheet, OnAPrinterThatCantBeUsedIsADeviceError) {

@@ -343,6 +343,34 @@ TEST_F(OutputTest, ABrokenPictureInThePreviewEndsTheProgram) {
   EXPECT_EQ(program().Status(), 1);
 }
 
+TEST_F(OutputTest, AWindowsMetafileIsListedForTheCrosswordAndADrawingStandsForIt) {
+  folder_.Write("clip.wmf", std::string("\xD7\xCD\xC6\x9A") + std::string(40, '\0'));
+  Start();
+  Answer();
+  desktop_->loop().Dispatch([this] { program().forms().Show(Screen::AddPic); });
+  Settle();
+  ClickRow("AddPic", "File1", 1);
+  EXPECT_EQ(boxes_, QStringList{});
+  ASSERT_NE(dynamic_cast<AddPic&>(*Loaded("AddPic")).Image1.Picture(), nullptr);
+  const QImage preview = Widget("AddPic", "Image1")->grab().toImage();
+  EXPECT_GT(preview.width(), 100);
+  const QColor middle = preview.pixelColor(preview.width() / 2, preview.height() / 2);
+  bool drawn = false;
+  for (int x = 0; x < preview.width(); ++x) {
+    drawn = drawn || preview.pixelColor(x, preview.height() / 2) != middle;
+  }
+  EXPECT_TRUE(drawn);
+}
+
+TEST_F(OutputTest, ThePreviewKeepsItsRoomWhileThereIsNone) {
+  folder_.Write("sun.bmp", BitmapFile(48, 24));
+  GoToStudySheet(3);
+  ClickTool("StudyGuideForm", "Clipart");
+  const int before = Widget("AddPic", "File1")->width();
+  ClickRow("AddPic", "File1", 0);
+  EXPECT_EQ(Widget("AddPic", "File1")->width(), before);
+}
+
 TEST_F(OutputTest, EscapeLeavesTheBrowserForTheWorksheet) {
   GoToStudySheet(3);
   ClickTool("StudyGuideForm", "Clipart");

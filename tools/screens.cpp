@@ -261,7 +261,7 @@ std::vector<Walk> Walks() {
        Click("ChooseList", "Command1"), Click("QuizOptions5", "Command1"),
        Click("PickWords", "ChooseRandom"), Click("PickWords", "Command2"), DrawSun(),
        Tool("StudyGuideForm", "Save"), Click("StudyGuideForm", "Back"), Click("Title", "Command2"),
-       Select("OpenWorksheet", "File1", 0), Photo("OpenWorksheet-chosen"),
+       Select("OpenWorksheet", "File1", 1), Photo("OpenWorksheet-chosen"),
        Click("OpenWorksheet", "Command1"), Tool("QuizForm", "Clipart"),
        Select("AddPic", "File1", 0), Photo("AddPic-chosen"), Click("AddPic", "Command1"),
        Photo("QuizForm-with-picture")},

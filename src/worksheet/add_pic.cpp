@@ -47,6 +47,7 @@ AddPic::AddPic(Program& owner) : ProgramForm(owner, Screen::AddPic, "AddPic", "A
   };
   Dir1.Change = [this] {
     File1.Path = Dir1.Path;
+    Dir1.ToolTipText = Dir1.Path();
     Image1.Visible = false;
   };
   File1.Click = [this] {
@@ -54,14 +55,16 @@ AddPic::AddPic(Program& owner) : ProgramForm(owner, Screen::AddPic, "AddPic", "A
   };
   Command1.Click = [this] { AddPicture(); };
   Command2.Click = [this] { Unload(); };
+  // The preview keeps its half while there is none.
   Arrange(Column(Fill(Row(Fill(Column(Label3, Drive1, Label1, Fill(Dir1), Label2, Fill(File1))),
-                          Fill(Image1))),
+                          Fill(Column(Fill(Image1))))),
                  Row(Command2, Spring(), Command1)));
 }
 
 void AddPic::Load() {
   CentreForm();
   LoadBackground();
+  Dir1.ToolTipText = Dir1.Path();
   if (shared.PictureReturn) File1.Pattern = "*.bmp";
 }
 

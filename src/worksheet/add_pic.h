@@ -17,7 +17,7 @@ class AddPic : public ProgramForm {
   DirListBox Dir1{*this, "Dir1"};
   Label Label2{*this, "Label2", "Pictures Available:"};
   FileListBox File1{*this, "File1", "*.jpg;*.bmp;*.wmf;*.gif;*.emf;*.ico;*.cur;*.dib"};
-  Image Image1{*this, "Image1", "picture"};
+  Image Image1{*this, "Image1"};
   CommandButton Command1{*this, "Command1", "Add This Picture"};
   CommandButton Command2{*this, "Command2", "Cancel"};
 
