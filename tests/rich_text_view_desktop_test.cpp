@@ -267,7 +267,7 @@ TEST_F(AnOpenSheet, ARuleOfNinetyUnderscoresIn10PointsStandsOnOneLine) {
       box.SelText(std::string(90, '_').append("\n").append(91, '_'));
     });
     EXPECT_EQ(Lines(view->document()),
-              std::string(90, '_') + "\n" + std::string(90, '_') + "\n_\n");
+              std::string(90, '_').append("\n").append(90, '_').append("\n_\n"));
   }
 }
 
