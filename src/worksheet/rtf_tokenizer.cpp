@@ -36,7 +36,7 @@ constexpr bool MayHave(Block bytes, Block byte) { return MayHaveLess(bytes ^ kOn
 bool IsTextBlock(const char* bytes) {
   Block block;
   std::memcpy(&block, bytes, sizeof block);
-  return !(MayHaveLess(block, 0x20) | MayHave(block, '\\') | MayHave(block, '{') |
+  return !(MayHaveLess(block, 0x20) || MayHave(block, '\\') || MayHave(block, '{') ||
            MayHave(block, '}'));
 }
 
