@@ -27,17 +27,16 @@ constexpr std::array<std::uint8_t, 256> kClasses = [] {
 using Block = std::uint64_t;
 constexpr Block kOnes = 0x0101010101010101;
 
-// Sure of no such byte, or nearly sure of one.
-constexpr bool MayHaveLess(Block bytes, Block limit) {
-  return ((bytes - kOnes * limit) & ~bytes & kOnes * 0x80) != 0;
+// 0 where there is no such byte for sure.
+constexpr Block Less(Block bytes, Block limit) {
+  return (bytes - kOnes * limit) & ~bytes & kOnes * 0x80;
 }
-constexpr bool MayHave(Block bytes, Block byte) { return MayHaveLess(bytes ^ kOnes * byte, 1); }
+constexpr Block Equal(Block bytes, Block byte) { return Less(bytes ^ kOnes * byte, 1); }
 
 bool IsTextBlock(const char* bytes) {
   Block block;
   std::memcpy(&block, bytes, sizeof block);
-  return !(MayHaveLess(block, 0x20) || MayHave(block, '\\') || MayHave(block, '{') ||
-           MayHave(block, '}'));
+  return (Less(block, 0x20) | Equal(block, '\\') | Equal(block, '{') | Equal(block, '}')) == 0;
 }
 
 bool IsLetter(unsigned char c) { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
