@@ -38,6 +38,8 @@ class QuizDesktop : public testing::Test {
     loop_.Attach(program_);
     QObject::connect(&loop_, &Loop::HandlerBegins, [this] { random_.BeginHandler(); });
   }
+  // The windows go before the forms that they show.
+  ~QuizDesktop() override { windows_.reset(); }
 
   void Click(const std::string& form_name, const std::string& name, int index = -1) {
     for (const auto& form : program_.forms().Loaded()) {
@@ -68,12 +70,12 @@ class QuizDesktop : public testing::Test {
     Click("QuizOptions5", "Command1");
     Click("PickWords", "ChooseRandom");
     Click("PickWords", "Command2");
-    windows_.Flush();
+    windows_->Flush();
   }
 
   RichTextBox& Sheet() { return program_.forms().Find<QuizForm>(Screen::QuizForm)->QuizBox; }
   RichTextView& View() {
-    FormView* form = windows_.Find(Sheet().form());
+    FormView* form = windows_->Find(Sheet().form());
     auto* view = dynamic_cast<RichTextView*>(form->Find(Sheet())->widget());
     view->Mirror();
     view->document().documentLayout()->documentSize();  // lays out what is not yet
@@ -99,8 +101,8 @@ class QuizDesktop : public testing::Test {
   Milliseconds now_ = 0;
   Milliseconds step_ = 0;  // by which each look at the clock finds it later
   Loop loop_;
-  Windows windows_{loop_};
-  QtPlatform platform_{loop_, windows_};
+  std::unique_ptr<Windows> windows_ = std::make_unique<Windows>(loop_);
+  QtPlatform platform_{loop_, *windows_};
   DesktopRandom random_{[this] { return now_ += step_; },
                         [this] {
                           if (!platform_.AskToWait()) program_.End();
