@@ -174,6 +174,7 @@ TEST_F(ListsDesktop, AMessageTakesNoBoxAway) {
   BeginEdit();
   ClickTool("EditList", "Add Word");
   ASSERT_TRUE(QTest::qWaitForWindowActive(WindowOf("AddWord")));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Widget("AddWord", "Text1")->hasFocus(); }));
   TypeText("Pluto");
   AnswerBoxes("OK");
   desktop_->loop().Dispatch([this] { program().MsgBox("A notice of the program's own.", "Hey!"); });
