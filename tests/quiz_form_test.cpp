@@ -133,5 +133,35 @@ TEST_F(QuizFormTest, AQuizOfThreeHundredMeaningsToChooseFromIsMade) {
   EXPECT_GT(Sheet().QuizBox.Length(), 32767);
 }
 
+class SavedQuiz : public QuizFormTest, public ::testing::WithParamInterface<const char*> {};
+
+// The blanks at its end and the font that no system has are saved as they stand.
+TEST_P(SavedQuiz, ComesBackAsItWas) {
+  Start();
+  Click(Screen::Title, "Command1", kQuiz);
+  Do([&] {
+    dynamic_cast<ListBox&>(*program.forms().Find(Screen::ChooseList)->FindControl("TheLists"))
+        .ClickRow(0);
+  });
+  Click(Screen::ChooseList, "Command1");
+  Click(Screen::QuizOptions3, GetParam());
+  Click(Screen::QuizOptions3, "Command1");
+  Click(Screen::QuizOptions5, "Command1");
+  Click(Screen::PickWords, "ChooseRandom");
+  Click(Screen::PickWords, "Command2");
+  ASSERT_TRUE(Active(Screen::QuizForm));
+  for (RichTextBox* box : {&Sheet().QuizBox, &Sheet().AnswerBox}) {
+    const std::vector<std::string> before = Runs(*box);
+    box->SaveFile("worksheets\\quiz.rtf");
+    box->Text("");
+    box->LoadFile("worksheets\\quiz.rtf");
+    EXPECT_EQ(Runs(*box), before);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, SavedQuiz,
+                         ::testing::Values("MC", "MC2", "Match", "FillNo", "FillYes"),
+                         [](const auto& kind) { return std::string(kind.param); });
+
 }  // namespace
 }  // namespace brindlepage

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "quiz/quiz_sheet.h"
 #include "temp_folder.h"
 #include "tests/rtf_tools.h"
 #include "worksheet/compose.h"
@@ -92,6 +93,16 @@ class WordProcessor : public testing::Test {
     ASSERT_EQ(status, 0) << folder_.Read("shell.log");
   }
 
+  // The same into PDF, with the fonts that the program's package installs beside it.
+  void ConvertWithOurFonts(const std::string& file, const std::string& to) {
+    folder_.Write("fonts.conf",
+                  "<?xml version=\"1.0\"?><fontconfig><include>/etc/fonts/fonts.conf</include>"
+                  "<include>" FONT_ALIAS "</include></fontconfig>");
+    setenv("FONTCONFIG_FILE", (folder_.Path() / "fonts.conf").c_str(), 1);
+    Convert(file, to, "pdf");
+    unsetenv("FONTCONFIG_FILE");
+  }
+
   std::string Output(const std::string& command) {
     EXPECT_EQ(std::system((command + " >output.txt 2>&1").c_str()), 0) << command;
     return folder_.Read("output.txt");
@@ -141,22 +152,54 @@ TEST_F(WordProcessor, ReadsOurFileAsItIs) {
   EXPECT_GE(Count(fonts, "LiberationSerif|TimesNewRoman"), 1U) << fonts;
 }
 
-// With the fonts that the program's package installs beside it.
 TEST_F(WordProcessor, ShowsTheMisspeltFontInAFixedPitch) {
-  folder_.Write("fonts.conf",
-                "<?xml version=\"1.0\"?><fontconfig><include>/etc/fonts/fonts.conf</include>"
-                "<include>" FONT_ALIAS "</include></fontconfig>");
   Sheet sheet;
   sheet.SelFontName(compose::kCourrier);
   sheet.SelFontSize(10);
   sheet.SelText(kRule);
   folder_.Write("rule.rtf", WriteRtf(sheet));
-  setenv("FONTCONFIG_FILE", (folder_.Path() / "fonts.conf").c_str(), 1);
-  ASSERT_NO_FATAL_FAILURE(Convert("rule.rtf", "page", "pdf"));
-  unsetenv("FONTCONFIG_FILE");
+  ASSERT_NO_FATAL_FAILURE(ConvertWithOurFonts("rule.rtf", "page"));
   const std::string fonts = Output("pdffonts page/rule.pdf");
   EXPECT_EQ(Count(fonts, "LiberationMono|CourierNew"), 1U) << fonts;
   EXPECT_EQ(Count(fonts, "yes"), 3U) << fonts;  // one font in all: embedded, a part, in Unicode
+}
+
+// Sixty questions leave thousands of blanks behind the last.
+TEST_F(WordProcessor, ShowsTheChoicesOfAQuizInColumnsAndGivesItsLastBlanksNoPage) {
+  SharedState shared;
+  shared.QuizKind = kChooseWord;
+  shared.WorksheetTitle = "Quiz";
+  shared.ListWordCount = 60;
+  shared.MarkedCount = 60;
+  for (int word = 1; word <= 60; ++word) {
+    shared.ListWords(word) = "word" + std::to_string(word);
+    shared.ListMeanings(word) = "meaning " + std::to_string(word);
+    shared.WordMarks(word) = 1;
+  }
+  SeededRandom random(1);
+  Sheet sheet;
+  Sheet key;
+  ComposeQuiz(shared, random, sheet, key);
+  folder_.Write("quiz.rtf", WriteRtf(sheet));
+  const int end = static_cast<int>(sheet.PlainText().find_last_not_of(U' ')) + 1;
+  ASSERT_GT(sheet.Length() - end, 6000);
+  sheet.Replace(end, sheet.Length() - end, U"", sheet.DesignFormat());
+  folder_.Write("short.rtf", WriteRtf(sheet));
+
+  ASSERT_NO_FATAL_FAILURE(ConvertWithOurFonts("quiz.rtf short.rtf", "page"));
+  const std::string words = Output("pdftotext -bbox page/quiz.pdf -");
+  // In points: half an inch, then six to the character.
+  for (const char* choice : {"A", "C"}) {
+    EXPECT_EQ(Count(words, "xMin=\"96\\.[01][^>]*>" + std::string(choice) + "\\)<"), 60U) << choice;
+  }
+  for (const char* choice : {"B", "D"}) {
+    EXPECT_EQ(Count(words, "xMin=\"276\\.[01][^>]*>" + std::string(choice) + "\\)<"), 60U)
+        << choice;
+  }
+  const auto pages = [&](const std::string& file) {
+    return Count(Output("pdftotext page/" + file + " -"), "\f");
+  };
+  EXPECT_EQ(pages("quiz.pdf"), pages("short.pdf"));
 }
 
 TEST_F(WordProcessor, WritesOurFileBackTheSame) {
