@@ -932,6 +932,37 @@ TEST_F(APrintedSheet, ComesInAsManyCopiesAndInTheOrderThatTheDialogWasTold) {
   EXPECT_EQ(firsts(), "9 1 ");
 }
 
+class APrintedSheetOfLargeLines : public APrintedSheet {
+ protected:
+  // Each letter is a line, a dot an empty one; eight of them stand on a page. The pages' letters.
+  std::string Pages(const std::string& lines) {
+    Compose([&](RichTextBox& box) {
+      box.SelFontSize(72);
+      for (const char line : lines) box.SelText(line == '.' ? "\n" : std::string{line, '\n'});
+    });
+    Print();
+    QString pages;
+    for (const QString& page : pages::Texts(file_)) {
+      pages += page.simplified().remove(u' ') + u' ';
+    }
+    return pages.toStdString();
+  }
+};
+
+TEST_F(APrintedSheetOfLargeLines, KeepsAQuestionAndItsLinesOnOnePage) {
+  EXPECT_EQ(Pages("abc.def.gh"), "abcdef gh ");
+  EXPECT_EQ(Pages("ab.cd.efg.hi"), "abcd efghi ");
+}
+
+TEST_F(APrintedSheetOfLargeLines, LeavesAQuestionThatEndsWithThePage) {
+  EXPECT_EQ(Pages("ab.cdefg.hi"), "abcdefg hi ");
+}
+
+TEST_F(APrintedSheetOfLargeLines, BreaksWhatIsLongWhereThePageIsFull) {
+  EXPECT_EQ(Pages("a.bcdefghi"), "abcdefg hi ");
+  EXPECT_EQ(Pages("abcdefghijklmnopqr"), "abcdefgh ijklmnop qr ");
+}
+
 TEST_F(APrintedSheet, BlanksAtTheEndTakeNoPage) {
   Compose([](RichTextBox& box) {
     box.SelText("word");

@@ -213,5 +213,14 @@ TEST_F(AWordSearchOnScreen, HasAKeyThatIsPrintedOnOnePage) {
             Written(QString::fromStdU32String(form().AnswerBox.PlainText())));
 }
 
+TEST_F(AWordSearchOnScreen, AsksForItsSizeOnAPanelNoHigherThanItNeeds) {
+  Open(Screen::PuzzleSize);
+  auto* page = desktop_->windows().main().Page();
+  const auto* panel = page->findChild<QFrame*>("Panel");
+  ASSERT_NE(panel, nullptr);
+  EXPECT_LT(panel->height(), 300);
+  EXPECT_GT(panel->width(), 700);
+}
+
 }  // namespace
 }  // namespace brindlepage

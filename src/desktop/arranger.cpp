@@ -106,10 +106,11 @@ QLayout* LayOut(const Arrangement& part, const WidgetOf& widget_of) {
 }
 
 bool WantsRoom(const Arrangement& part) {
-  if (part.kind == Kind::Spring) return false;
-  if (part.weight > 0) return true;
+  // What grows in a row grows in width.
+  const bool row = part.kind == Kind::Row;
   for (const Arrangement& inside : part.parts) {
-    if (WantsRoom(inside)) return true;
+    if (inside.kind == Kind::Spring) continue;
+    if ((inside.weight > 0 && !row) || WantsRoom(inside)) return true;
   }
   return false;
 }

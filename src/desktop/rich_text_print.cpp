@@ -20,6 +20,7 @@ struct Line {
   QPointF origin;  // of its paragraph
   double top;      // dots
   double bottom;
+  bool written;  // something stands on it
 };
 
 struct Lines {
@@ -42,22 +43,40 @@ Lines LinesOf(const QTextDocument& document) {
     for (int i = 0; i < layout.lineCount(); ++i) {
       const QTextLine line = layout.lineAt(i);
       const double top = layout.position().y() + line.y();
-      lines.all.push_back({line, layout.position(), top, top + line.height()});
       const auto words = QStringView(text).mid(line.textStart(), line.textLength()).trimmed();
+      lines.all.push_back({line, layout.position(), top, top + line.height(), !words.isEmpty()});
       if (!words.isEmpty()) lines.visible = lines.all.size();
     }
   }
   return lines;
 }
 
+// The line with which a page begins, if `line` is the first that has no room on the one before,
+// which begins with `first`. A question and its few lines stay together.
+std::size_t PageBreak(const Lines& lines, std::size_t first, std::size_t line) {
+  constexpr std::size_t kKeptTogether = 6;
+  if (!lines.all[line].written) return line;
+  for (std::size_t i = line; i > first + 1 && line - i < kKeptTogether; --i) {
+    if (!lines.all[i - 1].written) return i;
+  }
+  return line;
+}
+
 // A line that is higher than a page is cut, and blanks at the end open no page.
 std::vector<Page> PagesOf(const Lines& lines, double height) {
   std::vector<Page> pages;
+  std::size_t first = 0;  // of the last page
   for (std::size_t i = 0; i < lines.all.size(); ++i) {
-    const Line& line = lines.all[i];
-    const bool fits = !pages.empty() && line.bottom <= pages.back().top + height;
+    const bool fits = !pages.empty() && lines.all[i].bottom <= pages.back().top + height;
     if (!fits && i >= lines.visible) break;
-    if (!fits) pages.push_back({line.top, line.top});
+    if (!fits) {
+      if (!pages.empty()) i = PageBreak(lines, first, i);
+      first = i;
+      const double top = lines.all[i].top;
+      if (!pages.empty()) pages.back().bottom = std::min(pages.back().bottom, top);
+      pages.push_back({top, top});
+    }
+    const Line& line = lines.all[i];
     while (line.bottom > pages.back().top + height) {
       const double cut = pages.back().top + height;
       pages.back().bottom = cut;
