@@ -203,8 +203,9 @@ Walk SavedWorksheet() {
        {DrawSun(), Tool("StudyGuideForm", "Save"), Click("StudyGuideForm", "Back"),
         Click("Title", "Command2"), Select("OpenWorksheet", "File1", 1),
         Photo("open-worksheet", "OpenWorksheet"), Click("OpenWorksheet", "Command1"),
-        Tool("QuizForm", "Clipart"), Select("AddPic", "File1", 0), Photo("add-picture", "AddPic"),
-        Click("AddPic", "Command1"), Photo("worksheet-with-picture", "QuizForm")}});
+        CaretBefore("QuizForm", "QuizBox", "\n 1)"), Tool("QuizForm", "Clipart"),
+        Select("AddPic", "File1", 0), Photo("add-picture", "AddPic"), Click("AddPic", "Command1"),
+        CaretBefore("QuizForm", "QuizBox", "Solar"), Photo("worksheet-with-picture", "QuizForm")}});
 }
 
 }  // namespace
