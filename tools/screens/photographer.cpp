@@ -78,7 +78,8 @@ void Photographer::TakeFront(const QString& name) {
 
 void Photographer::Take(const QString& name, Form& form) {
   FormView* view = stage_->windows().Find(form);
-  if (view != nullptr) Save(name, *view->window());
+  // A page behind another one is taken by itself.
+  if (view != nullptr) Save(name, view->isVisible() ? *view->window() : *view);
 }
 
 void Photographer::TakePage(const RichTextBox& box, int start, int length) {
