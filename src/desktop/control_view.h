@@ -5,7 +5,6 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
-#include <memory>
 
 #include "desktop/loop.h"
 #include "desktop/mnemonics.h"
@@ -82,7 +81,5 @@ struct ViewSetting {
   // A label that may take more than one line.
   bool wraps = false;
 };
-
-std::unique_ptr<ControlView> MakeControlView(Control& control, const ViewSetting& setting);
 
 }  // namespace brindlepage

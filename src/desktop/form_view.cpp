@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "desktop/arranger.h"
+#include "desktop/control_views.h"
 #include "desktop/picture_view.h"
 #include "desktop/style.h"
 #include "desktop/text.h"

@@ -3,13 +3,8 @@
 #include <QBasicTimer>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <cstdint>
-#include <optional>
-#include <string>
-#include <vector>
 
-#include "desktop/rich_text_layout.h"
-#include "desktop/rich_text_positions.h"
+#include "desktop/rich_text_mirror.h"
 #include "toolkit/runtime.h"
 #include "worksheet/rich_text_box.h"
 
@@ -23,11 +18,8 @@ class RichTextFindBar;
 // The face of a rich text box: a white sheet with the text column of 7.5 inches, on which a
 // teacher types, selects, copies and pastes, undoes, zooms and finds.
 //
-// The box is the truth. Either side tells of a stretch that changed; the stretch is compared and
-// only what differs is taken over, so that an echo finds nothing to do. What the teacher does
-// enters the box by the runtime's dispatch. What a handler does to the box is shown when the
-// handler is done, all of it in one step.
-class RichTextView : public QGraphicsView, private RichTextObserver {
+// A RichTextMirror keeps what is shown and the box alike.
+class RichTextView : public QGraphicsView {
   Q_OBJECT
 
  public:
@@ -42,7 +34,7 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
 
   // As shown. Its positions are those of the box, but for characters beyond U+FFFF, which Qt
   // counts double.
-  const QTextDocument& document() const { return layout_.document(); }
+  const QTextDocument& document() const { return mirror_.layout().document(); }
   QTextCursor Caret() const;
 
   // Per cent of the true size, 30 to 400.
@@ -76,37 +68,6 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
 
  private:
   class Sheet;
-  struct Cell {
-    char32_t character;
-    std::uint32_t format;
-  };
-  using Cells = std::vector<Cell>;
-  // A stretch that may differ between box and view: what lies before and behind does not.
-  struct Difference {
-    int before;
-    int behind;
-  };
-
-  // From the box to the view.
-  void Replaced(int position, int removed, int inserted) override;
-  void Reformatted(int position, int count) override;
-  void ParagraphsAligned(int position, int count) override;
-  void CaretMoved() override;
-  void Note(int position, int end);
-  void MirrorSoon();
-  void ShowStretch(int start, int box_end, int view_end);
-  void ShowCaret();
-  void ShowCaretFormat();
-
-  // From the view to the box.
-  void TakeEdit(int qt_position, int removed, int added);
-  void TakeStretch(int start, int box_end, int view_end);
-  void TakeCaret();
-
-  Cells BoxCells(int start, int end) const;
-  Cells ViewCells(int qt_start, int qt_end) const;
-  int ViewLength() const;
-  QTextCursor Select(int start, int end);
 
   // The teacher's commands.
   using Command = void (RichTextView::*)();
@@ -128,8 +89,6 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
   void MoveCaret(const QTextCursor& cursor);
   void FindFrom(QTextCursor from, bool backward);
   void CloseFindBar();
-  template <class Deed>
-  void Do(Deed deed);
 
   QRectF CaretRect(const QTextCursor& cursor) const;  // dots, in the column
   int PositionAt(const QPointF& point) const;         // of the box
@@ -140,19 +99,10 @@ class RichTextView : public QGraphicsView, private RichTextObserver {
   QPoint IntoColumn(const QPoint& point) const;
   QMouseEvent InsideColumn(const QMouseEvent& event) const;
 
-  RichTextBox* box_;  // null once left
-  Runtime& runtime_;
-  RichTextLayout layout_;
-  QGraphicsScene scene_;
   Sheet* sheet_;  // the scene's
+  RichTextMirror mirror_;
+  QGraphicsScene scene_;
   RichTextFindBar* find_bar_;
-  RichTextPositions positions_;
-
-  std::optional<Difference> difference_;
-  bool whole_ = false;  // the box has a new document
-  bool mirror_soon_ = false;
-  bool mirroring_ = false;
-  bool taking_ = false;
 
   int zoom_ = 100;
   int wheel_turned_ = 0;

@@ -7,6 +7,7 @@
 #include <QPixmapCache>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <QVariant>
 #include <QWidget>
 
 namespace brindlepage {
@@ -291,6 +292,13 @@ void ApplyStyle(QApplication& application) {
   constexpr int kPixmapCache = 64 * 1024;  // kilobytes
   QPixmapCache::setCacheLimit(kPixmapCache);
   application.installEventFilter(new AltWatcher(application, *style));
+}
+
+void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value) {
+  if (widget.property(name) == value) return;
+  widget.setProperty(name, value);
+  widget.style()->unpolish(&widget);
+  widget.style()->polish(&widget);
 }
 
 }  // namespace brindlepage

@@ -3,6 +3,8 @@
 #include <QColor>
 
 class QApplication;
+class QVariant;
+class QWidget;
 
 namespace brindlepage {
 
@@ -23,5 +25,8 @@ inline constexpr QColor kFaded{0xa9, 0xac, 0xb0};  // what can't be used now
 // Gives the program its look: palette, style sheet, marks of check boxes and option buttons.
 // The letters that work with Alt are underlined while Alt is held.
 void ApplyStyle(QApplication& application);
+
+// Sets a property that the style sheet looks at.
+void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value);
 
 }  // namespace brindlepage
