@@ -39,7 +39,7 @@ TEST_F(AlphabetizeSheet, FourWordsInDrawnOrderAndTheKeySorted) {
   EXPECT_EQ(shared.AnswerTable(2), 3);
   EXPECT_EQ(shared.AnswerTable(3), 4);
   EXPECT_EQ(shared.AnswerTable(4), 2);
-  EXPECT_EQ(draws.Reseeds(), 4);
+  EXPECT_EQ(draws.Reseeds().size(), 4u);
 }
 
 TEST_F(AlphabetizeSheet, FiveWordsMakeASecondRowAndAccentsStandBesideTheirLetters) {

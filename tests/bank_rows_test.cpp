@@ -78,7 +78,7 @@ TEST_F(BankRowsTest, ABankEntryReseedsOnceAndIsDrawnUntilItIsNotEmpty) {
   GivenDraws draws;
   draws.Of(6, {1, 6, 3});
   EXPECT_EQ(PickBankWord(bank, 6, draws), 3);
-  EXPECT_EQ(draws.Reseeds(), 1);
+  EXPECT_EQ(draws.Reseeds().size(), 1u);
 }
 
 }  // namespace

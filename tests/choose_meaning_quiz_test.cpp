@@ -63,7 +63,7 @@ TEST_F(ChooseMeaningQuiz, ThreeQuestionsWithTheirKey) {
   EXPECT_EQ(shared.AnswerTable(1), 3);
   EXPECT_EQ(shared.AnswerTable(2), 4);
   EXPECT_EQ(shared.AnswerTable(3), 2);
-  EXPECT_EQ(draws.Reseeds(), 3);
+  EXPECT_EQ(draws.Reseeds().size(), 3u);
 }
 
 TEST_F(ChooseMeaningQuiz, AMeaningThatIsTheWordAndAnEmptyOneAreRefused) {

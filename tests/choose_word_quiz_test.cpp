@@ -30,7 +30,7 @@ TEST_F(ChooseWordQuiz, TwoQuestionsWithTheirKey) {
   ExpectKey({" 1)  B\n", " 2)  D\n"});
   EXPECT_EQ(shared.AnswerTable(1), 2);
   EXPECT_EQ(shared.AnswerTable(2), 4);
-  EXPECT_EQ(draws.Reseeds(), 2);
+  EXPECT_EQ(draws.Reseeds().size(), 2u);
 }
 
 // Its last letter ends among the blanks at the end of the sheet.

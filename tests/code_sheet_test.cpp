@@ -18,10 +18,10 @@ class CodeSheet : public testing::Test {
   CodeSheet() { shared.WorksheetTitle = "Our Code"; }
 
   // The draws of a table in which A is 26, B is 25, ... Z is 1.
-  static ToldDraws BackwardsTable() {
-    ToldDraws random({kReseed});
-    for (int number = 26; number >= 1; --number) random.Then({{number, 26}});
-    return random;
+  static std::vector<ToldDraws::Step> BackwardsTable() {
+    std::vector<ToldDraws::Step> steps = {kReseed};
+    for (int number = 26; number >= 1; --number) steps.push_back({number, 26});
+    return steps;
   }
   void Riddle(const char* riddle, const char* answer) {
     ++shared.CodedRiddleCount;
@@ -89,7 +89,7 @@ TEST_F(CodeSheet, SecretCodeSheetAndKey) {
   shared.WordMarks(1) = 1;
   shared.WordMarks(3) = 1;
   shared.MarkedCount = 2;
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   random.Then({kReseed, {2, 3}, {3, 3}, kReseed, {3, 3}, {2, 3}, {1, 3}});
   ComposeCodeSheet(shared, random, box);
   EXPECT_EQ(
@@ -114,7 +114,7 @@ TEST_F(CodeSheet, CodedRiddlesSheetAndKey) {
   shared.ActivityKind = kCodedRiddles;
   Riddle("How did the race end?", "In a tie");
   Riddle("What has a spine?", "2 Books");
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   ComposeCodeSheet(shared, random, box);
   EXPECT_EQ(
       Runs(box),
@@ -133,7 +133,7 @@ TEST_F(CodeSheet, CryptoquipSheetAndKey) {
   shared.ActivityKind = kCryptoquip;
   Riddle("How did the race end?", "In a tie");
   Riddle("What has a spine?", "2 Books");
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   // The pairs: N with the blank behind it, again, N and T; then O, O again, K.
   random.Then({{2, 8}, {3, 8}, {2, 8}, {6, 8}, {4, 7}, {5, 7}, {6, 7}});
   ComposeCodeSheet(shared, random, box);
@@ -156,7 +156,7 @@ TEST_F(CodeSheet, ARiddleIsCodedOnlyWhereTheHintIsSet) {
   shared.ActivityKind = kCodedRiddles;
   shared.CodedRiddleHint = 1;
   Riddle("Who?", "I");
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   ComposeCodeSheet(shared, random, box);
   EXPECT_NE(PlainBytes(box).find("\n 1)  [4][19][12]?\n\n      [18]\n\n\n"), std::string::npos);
 }
@@ -167,7 +167,7 @@ TEST_F(CodeSheet, AMeaningKeepsItsBlanksEachDoubled) {
   shared.ListMeanings(1) = "a   b";
   shared.WordMarks(1) = 1;
   shared.MarkedCount = 1;
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   random.Then({kReseed, {1, 1}});
   ComposeCodeSheet(shared, random, box);
   EXPECT_NE(PlainBytes(box).find(" -- [26]      [25]\n\n\n\n"), std::string::npos);
@@ -178,7 +178,7 @@ TEST_F(CodeSheet, AnEmptyMeaningLeavesTheLineOpen) {
   shared.ListWordCount = 1;
   shared.WordMarks(1) = 1;
   shared.MarkedCount = 1;
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   random.Then({kReseed, {1, 1}});
   ComposeCodeSheet(shared, random, box);
   EXPECT_NE(PlainBytes(box).find("\n 1)  ________________ -- \n\n\n\n"), std::string::npos);
@@ -211,7 +211,7 @@ TEST_F(CodeSheet, TheSameAnswerIsNoTroubleInNumbers) {
 TEST_F(CodeSheet, ABracketInACryptoquipAnswerIsFatalWhenItIsDrawn) {
   shared.ActivityKind = kCryptoquip;
   Riddle("Who is it?", "[a");
-  ToldDraws random = BackwardsTable();
+  ToldDraws random(BackwardsTable());
   random.Then({{1, 2}, {2, 2}});
   EXPECT_FAULT(9, ComposeCodeSheet(shared, random, box));
 }

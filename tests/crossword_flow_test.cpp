@@ -180,7 +180,7 @@ TEST_F(CrosswordFlow, EveryClueLeadsToItsWordOnTheSolvedGrid) {
                        "mercury", "jupiter", "moon",  "sun",    "comet",  "star"};
   UseList(words);
   for (std::uint64_t seed = 1; seed <= 40; ++seed) {
-    random = SeededRandom(seed);
+    random.Seed(seed);
     WalkToPuzzle();
     // Where each number stands.
     std::map<std::string, std::pair<int, int>> starts;

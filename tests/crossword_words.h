@@ -38,17 +38,17 @@ struct CrosswordDrawsUsedUp {};
 
 // The given draws, and then, if a seed was given, draws from that. It counts what it is asked, and
 // keeps a sum in which every reseeding has its place between the draws.
-class CrosswordDraws : public RandomSource {
+class CrosswordDraws : public DrawByDraw {
  public:
   explicit CrosswordDraws(std::vector<double> draws) : draws_(std::move(draws)) {}
   CrosswordDraws(std::vector<double> draws, std::uint64_t seed)
       : draws_(std::move(draws)), endless_(true), rest_(seed) {}
 
-  float NextRandom() override {
+  float Draw() override {
     ++drawn_;
     if (next_ < draws_.size()) return static_cast<float>(draws_[next_++]);
     if (!endless_ || drawn_ > kTooMany) throw CrosswordDrawsUsedUp();
-    return rest_.Next();
+    return rest_.NextRandom();
   }
   void Reseed() override {
     ++reseeds_;
@@ -66,7 +66,7 @@ class CrosswordDraws : public RandomSource {
   std::vector<double> draws_;
   std::size_t next_ = 0;
   bool endless_ = false;
-  Xoshiro rest_{0};
+  SeededRandom rest_{0};
   std::int64_t drawn_ = 0;
   std::int64_t reseeds_ = 0;
   std::uint64_t trace_ = 0;

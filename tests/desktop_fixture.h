@@ -117,7 +117,8 @@ class DesktopTest : public testing::Test {
   // Does that to each box that opens, until it has closed.
   void OnBoxes(std::function<void(QDialog&)> deed) {
     QObject::connect(&box_watch_, &QTimer::timeout, &box_watch_, [deed] {
-      if (auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget())) deed(*box);
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (box != nullptr && box->focusWidget() != nullptr) deed(*box);
     });
     box_watch_.start(20);
   }

@@ -23,7 +23,7 @@ TEST_F(FillInQuiz, ThreeQuestionsInDrawnOrderWithTheirKey) {
   EXPECT_EQ(shared.AnswerTable(1), 4);
   EXPECT_EQ(shared.AnswerTable(2), 6);
   EXPECT_EQ(shared.AnswerTable(3), 1);
-  EXPECT_EQ(draws.Reseeds(), 3);
+  EXPECT_EQ(draws.Reseeds().size(), 3u);
 }
 
 TEST_F(FillInQuiz, OneMarkedWordOfALongListGivesOneQuestionAndOneKeyLine) {

@@ -53,7 +53,7 @@ TEST_F(MatchingQuiz, ThreeWordsOfSixWithTheRightKey) {
                     {"a deep mouth", "a hot spring", "grey dust"}, 36));
   ExpectKey({" 1)   3\n", "\n", " 2)   1\n", "\n", " 3)   2\n", "\n"});
   ExpectAnswers({3, 1, 2});
-  EXPECT_EQ(draws.Reseeds(), 6);
+  EXPECT_EQ(draws.Reseeds().size(), 6u);
 }
 
 // The right numbers are 3, 2 and 1. Magma's question gets 1, which is the number of the word lava

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/expect_fault.h"
-#include "tests/puzzle_draws.h"
+#include "tests/given_draws.h"
 
 namespace brindlepage {
 namespace {
@@ -28,7 +28,7 @@ class PuzzleBuilderTest : public ::testing::Test {
 
   SharedState shared;
   SeededRandom random{1};
-  PuzzleDraws draws;
+  GivenDraws draws;
   PuzzleGrid grid;
 };
 
@@ -40,17 +40,17 @@ std::string Row(const PuzzleGrid& grid, int y, int across) {
 
 TEST_F(PuzzleBuilderTest, TheWordsArePlacedInTheOrderOfTheList) {
   UseWords({"sea", "Island", "at"}, 10, 10);
-  draws.Add(1, 3);
-  draws.Add(2, 10);
-  draws.Add(3, 7);
-  draws.Add(1, 3);
-  draws.Add(3, 10);
-  draws.Add(4, 4);
-  draws.Add(2, 3);
-  draws.Add(5, 10);  // column 5, from the a of sea
-  draws.Add(2, 8);   // the t would stand on the s of Island
-  draws.Add(1, 8);   // the a would stand on nothing, its t on the a of sea
-  draws.Add(8, 8);
+  draws.Of(3, {1});
+  draws.Of(10, {2});
+  draws.Of(7, {3});
+  draws.Of(3, {1});
+  draws.Of(10, {3});
+  draws.Of(4, {4});
+  draws.Of(3, {2});
+  draws.Of(10, {5});  // column 5, from the a of sea
+  draws.Of(8, {2});   // the t would stand on the s of Island
+  draws.Of(8, {1});   // the a would stand on nothing, its t on the a of sea
+  draws.Of(8, {8});
   EXPECT_TRUE(PlaceWords(shared, draws, grid));
   EXPECT_EQ(Row(grid, 2, 10), "..sea.....");
   EXPECT_EQ(Row(grid, 3, 10), "...Island.");
@@ -62,9 +62,9 @@ TEST_F(PuzzleBuilderTest, TheWordsArePlacedInTheOrderOfTheList) {
 TEST_F(PuzzleBuilderTest, ARunBeginsWithAnEmptyGrid) {
   grid.Write("zzz", {1, 1, Direction::Across});
   UseWords({"ab"}, 10, 10);
-  draws.Add(2, 3);
-  draws.Add(4, 10);
-  draws.Add(8, 8);
+  draws.Of(3, {2});
+  draws.Of(10, {4});
+  draws.Of(8, {8});
   EXPECT_TRUE(PlaceWords(shared, draws, grid));
   EXPECT_EQ(Row(grid, 1, 10), "..........");
   EXPECT_EQ(Row(grid, 8, 10), "...a......");
@@ -106,21 +106,21 @@ TEST_F(PuzzleBuilderTest, AnOddSizeAt35IsTriedAgainAsItIs) {
 TEST_F(PuzzleBuilderTest, AGrownPuzzleStartsAgainWithEveryWordAndFreshDraws) {
   UseWords({"cat", "house"}, 4, 4);
   // 4 by 4: the first word is placed, the second is longer than the grid.
-  draws.Add(1, 3);
-  draws.Add(1, 4);
-  draws.Add(1, 1);
-  draws.Add(1, 3);
-  draws.AddEachOf(4);
-  draws.Add(2, 3);
-  draws.AddEachOf(4);
-  draws.Add(3, 3);
+  draws.Of(3, {1});
+  draws.Of(4, {1});
+  draws.Of(1, {1});
+  draws.Of(3, {1});
+  draws.AllOf(4);
+  draws.Of(3, {2});
+  draws.AllOf(4);
+  draws.Of(3, {3});
   // 6 by 6: both are placed.
-  draws.Add(3, 3);
-  draws.Add(3, 3);
-  draws.Add(1, 3);
-  draws.Add(1, 3);
-  draws.Add(1, 6);
-  draws.Add(1, 1);
+  draws.Of(3, {3});
+  draws.Of(3, {3});
+  draws.Of(3, {1});
+  draws.Of(3, {1});
+  draws.Of(6, {1});
+  draws.Of(1, {1});
   EXPECT_TRUE(BuildPuzzle(shared, draws, grid));
   EXPECT_EQ(draws.Left(), 0U);
   EXPECT_EQ(shared.PuzzleAcross, 6);
@@ -130,7 +130,7 @@ TEST_F(PuzzleBuilderTest, AGrownPuzzleStartsAgainWithEveryWordAndFreshDraws) {
   EXPECT_EQ(Row(grid, 3, 6), "c.....");
   EXPECT_EQ(Row(grid, 4, 6), ".a....");
   EXPECT_EQ(Row(grid, 5, 6), "..t...");
-  EXPECT_EQ(draws.reseeds, (std::vector<std::size_t>{0, 3, 8, 13, 14, 17}));
+  EXPECT_EQ(draws.Reseeds(), (std::vector<std::size_t>{0, 3, 8, 13, 14, 17}));
 }
 
 TEST_F(PuzzleBuilderTest, AWordOf17LettersOn10By10EndsOn18By18) {
@@ -201,7 +201,7 @@ TEST_F(PuzzleBuilderTest, AHopelessListStopsAtItsTenThousandthRun) {
 TEST_F(PuzzleBuilderTest, NoWordsMakeAnEmptyPuzzleWithoutADraw) {
   UseWords({}, 10, 10);
   EXPECT_TRUE(BuildPuzzle(shared, draws, grid));
-  EXPECT_EQ(draws.reseeds.size(), 0U);
+  EXPECT_EQ(draws.Reseeds().size(), 0U);
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include "wordsearch/puzzle_placer.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <string>
 
 #include "tests/expect_fault.h"
-#include "tests/puzzle_draws.h"
+#include "tests/given_draws.h"
 
 namespace brindlepage {
 namespace {
@@ -38,7 +40,7 @@ class PuzzlePlacerTest : public ::testing::Test {
   }
 
   PuzzleGrid grid;
-  PuzzleDraws draws;
+  GivenDraws draws;
 };
 
 // --- The grid
@@ -115,41 +117,41 @@ TEST_F(PuzzlePlacerTest, ACellOutsideTheGridIsASubscriptError) {
 // --- The scans
 
 TEST_F(PuzzlePlacerTest, AcrossDrawsADirectionARowAndAStart) {
-  draws.Add(1, 3);
-  draws.Add(4, 5);
-  draws.Add(2, 3);  // 6 columns less 3 letters
+  draws.Of(3, {1});
+  draws.Of(5, {4});
+  draws.Of(3, {2});  // 6 columns less 3 letters
   EXPECT_TRUE(Place("cat", 6, 5));
   EXPECT_EQ(Corner(grid, 6, 5), "......\n......\n......\n.cat..\n......\n");
-  EXPECT_EQ(draws.reseeds, std::vector<std::size_t>{0});
+  EXPECT_EQ(draws.Reseeds(), std::vector<std::size_t>{0});
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, DownDrawsADirectionAColumnAndAStart) {
-  draws.Add(2, 3);
-  draws.Add(6, 6);
-  draws.Add(2, 2);  // 5 rows less 3 letters
+  draws.Of(3, {2});
+  draws.Of(6, {6});
+  draws.Of(2, {2});  // 5 rows less 3 letters
   EXPECT_TRUE(Place("cat", 6, 5));
   EXPECT_EQ(Corner(grid, 6, 5), "......\n.....c\n.....a\n.....t\n......\n");
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, DiagonalDrawsADirectionAStartRowAndAStartColumn) {
-  draws.Add(3, 3);
-  draws.Add(1, 2);
-  draws.Add(3, 3);
+  draws.Of(3, {3});
+  draws.Of(2, {1});
+  draws.Of(3, {3});
   EXPECT_TRUE(Place("cat", 6, 5));
   EXPECT_EQ(Corner(grid, 6, 5), "..c...\n...a..\n....t.\n......\n......\n");
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, NeitherTheLastColumnNorTheLastRowIsReachedAlongAWord) {
-  draws.Add(1, 3);
-  draws.Add(4, 4);
-  draws.Add(1, 1);
+  draws.Of(3, {1});
+  draws.Of(4, {4});
+  draws.Of(1, {1});
   EXPECT_TRUE(Place("cat", 4, 4));
-  draws.Add(2, 3);
-  draws.Add(4, 4);
-  draws.Add(1, 1);
+  draws.Of(3, {2});
+  draws.Of(4, {4});
+  draws.Of(1, {1});
   EXPECT_TRUE(Place("dog", 4, 4));
   EXPECT_EQ(Corner(grid, 4, 4), "...d\n...o\n...g\ncat.\n");
   EXPECT_EQ(draws.Left(), 0U);
@@ -159,107 +161,107 @@ TEST_F(PuzzlePlacerTest, ATakenStartAndATakenLineAreDrawnAgainWithoutReseeding) 
   // Two rows full of other letters, so that two rows are searched in vain.
   grid.Write("xxxxx", {1, 1, Direction::Across});
   grid.Write("xxxxx", {1, 3, Direction::Across});
-  draws.Add(1, 3);
-  draws.Add(3, 4);
-  draws.AddAll({2, 2, 3, 2, 3, 1}, 3);  // each start of row 3, two of them again and again
-  draws.AddAll({3, 1}, 4);              // row 3 once more, then row 1
-  draws.AddAll({1, 2, 1, 3}, 3);
-  draws.AddAll({1, 3, 4}, 4);
-  draws.Add(3, 3);  // what was drawn in row 1 counts no more
+  draws.Of(3, {1});
+  draws.Of(4, {3});
+  draws.Of(3, {2, 2, 3, 2, 3, 1});  // each start of row 3, two of them again and again
+  draws.Of(4, {3, 1});              // row 3 once more, then row 1
+  draws.Of(3, {1, 2, 1, 3});
+  draws.Of(4, {1, 3, 4});
+  draws.Of(3, {3});  // what was drawn in row 1 counts no more
   EXPECT_TRUE(Place("ab", 5, 4));
   EXPECT_EQ(Corner(grid, 5, 4), "xxxxx\n.....\nxxxxx\n..ab.\n");
-  EXPECT_EQ(draws.reseeds, std::vector<std::size_t>{0});
+  EXPECT_EQ(draws.Reseeds(), std::vector<std::size_t>{0});
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AFullDirectionGivesWayToOneNotTriedYetAfterAReseed) {
   // In 3 by 4 a word of two letters goes across from column 1 alone; it is taken in every row.
   for (int y = 1; y <= 4; ++y) grid.Write("x", {1, y, Direction::Across});
-  draws.Add(1, 3);
+  draws.Of(3, {1});
   for (int y = 1; y <= 4; ++y) {
-    draws.Add(y, 4);
-    draws.Add(1, 1);
+    draws.Of(4, {y});
+    draws.Of(1, {1});
   }
-  draws.AddAll({1, 1, 2}, 3);  // across was tried
-  draws.Add(2, 3);
-  draws.Add(1, 2);
+  draws.Of(3, {1, 1, 2});  // across was tried
+  draws.Of(3, {2});
+  draws.Of(2, {1});
   EXPECT_TRUE(Place("ab", 3, 4));
   EXPECT_EQ(Corner(grid, 3, 4), "xa.\nxb.\nx..\nx..\n");
-  EXPECT_EQ(draws.reseeds, (std::vector<std::size_t>{0, 9}));
+  EXPECT_EQ(draws.Reseeds(), (std::vector<std::size_t>{0, 9}));
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AWordIsGivenUpWhenEveryPlaceInEveryDirectionIsTaken) {
   for (int y = 1; y <= 3; ++y) grid.Write("xxx", {1, y, Direction::Across});
   const std::string before = Corner(grid, 3, 3);
-  draws.Add(3, 3);
-  draws.Add(1, 1);  // one start row and one start column for a diagonal of two
-  draws.Add(1, 1);
-  draws.Add(1, 3);
+  draws.Of(3, {3});
+  draws.Of(1, {1});  // one start row and one start column for a diagonal of two
+  draws.Of(1, {1});
+  draws.Of(3, {1});
   for (int y = 1; y <= 3; ++y) {
-    draws.Add(y, 3);
-    draws.Add(1, 1);
+    draws.Of(3, {y});
+    draws.Of(1, {1});
   }
-  draws.Add(2, 3);
+  draws.Of(3, {2});
   for (int x = 1; x <= 3; ++x) {
-    draws.Add(x, 3);
-    draws.Add(1, 1);
+    draws.Of(3, {x});
+    draws.Of(1, {1});
   }
   EXPECT_FALSE(Place("ab", 3, 3));
   EXPECT_EQ(Corner(grid, 3, 3), before);
-  EXPECT_EQ(draws.reseeds, (std::vector<std::size_t>{0, 3, 10}));
+  EXPECT_EQ(draws.Reseeds(), (std::vector<std::size_t>{0, 3, 10}));
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AnEasyPuzzleNeverDrawsADiagonalAndGivesUpAfterTwoDirections) {
   for (int y = 1; y <= 3; ++y) grid.Write("x", {1, y, Direction::Across});
   for (int x = 1; x <= 3; ++x) grid.Write("x", {x, 1, Direction::Across});
-  draws.Add(2, 2);
+  draws.Of(2, {2});
   for (int x = 1; x <= 3; ++x) {
-    draws.Add(x, 3);
-    draws.Add(1, 1);
+    draws.Of(3, {x});
+    draws.Of(1, {1});
   }
-  draws.Add(1, 2);
+  draws.Of(2, {1});
   for (int y = 1; y <= 3; ++y) {
-    draws.Add(y, 3);
-    draws.Add(1, 1);
+    draws.Of(3, {y});
+    draws.Of(1, {1});
   }
   EXPECT_FALSE(Place("ab", 3, 3, true));
-  EXPECT_EQ(draws.reseeds.size(), 2U);
+  EXPECT_EQ(draws.Reseeds().size(), 2U);
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AWordAsLongAsTheGridIsWideCanOnlyGoDown) {
-  draws.Add(1, 3);
-  draws.AddEachOf(6);  // every row, none with a start
-  draws.Add(3, 3);
-  draws.AddAll({2, 1}, 2);  // both start rows, none with a start column
-  draws.Add(2, 3);
-  draws.Add(2, 4);
-  draws.Add(2, 2);
+  draws.Of(3, {1});
+  draws.AllOf(6);  // every row, none with a start
+  draws.Of(3, {3});
+  draws.Of(2, {2, 1});  // both start rows, none with a start column
+  draws.Of(3, {2});
+  draws.Of(4, {2});
+  draws.Of(2, {2});
   EXPECT_TRUE(Place("mars", 4, 6));
   EXPECT_EQ(Corner(grid, 4, 6), "....\n.m..\n.a..\n.r..\n.s..\n....\n");
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AWordAsLongAsTheGridIsHighHasNoDiagonalToDraw) {
-  draws.Add(3, 3);
-  draws.Add(2, 3);
-  draws.AddEachOf(6);
-  draws.Add(1, 3);
-  draws.Add(4, 4);
-  draws.Add(1, 2);
+  draws.Of(3, {3});
+  draws.Of(3, {2});
+  draws.AllOf(6);
+  draws.Of(3, {1});
+  draws.Of(4, {4});
+  draws.Of(2, {1});
   EXPECT_TRUE(Place("mars", 6, 4));
   EXPECT_EQ(Corner(grid, 6, 4), "......\n......\n......\nmars..\n");
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(PuzzlePlacerTest, AWordAsLongAsBothSidesFitsInNoDirection) {
-  draws.Add(1, 3);
-  draws.AddEachOf(4);
-  draws.Add(2, 3);
-  draws.AddEachOf(4);
-  draws.Add(3, 3);
+  draws.Of(3, {1});
+  draws.AllOf(4);
+  draws.Of(3, {2});
+  draws.AllOf(4);
+  draws.Of(3, {3});
   EXPECT_FALSE(Place("mars", 4, 4));
   EXPECT_EQ(draws.Left(), 0U);
 }
@@ -267,10 +269,10 @@ TEST_F(PuzzlePlacerTest, AWordAsLongAsBothSidesFitsInNoDirection) {
 TEST_F(PuzzlePlacerTest, AWordOneShorterThanTheGridStartsInColumnOne) {
   for (const float draw : {0.0F, 0.5F, 0.999999F}) {
     grid.Clear();
-    class Fixed : public RandomSource {
+    class Fixed : public DrawByDraw {
      public:
       explicit Fixed(float start) : start_(start) {}
-      float NextRandom() override { return ++count_ < 3 ? 0.0F : start_; }
+      float Draw() override { return ++count_ < 3 ? 0.0F : start_; }
       void Reseed() override {}
 
      private:
@@ -284,9 +286,9 @@ TEST_F(PuzzlePlacerTest, AWordOneShorterThanTheGridStartsInColumnOne) {
 
 TEST_F(PuzzlePlacerTest, TwoEqualWordsMayLieOnTheSameCells) {
   for (int time = 0; time < 2; ++time) {
-    draws.Add(1, 3);
-    draws.Add(2, 5);
-    draws.Add(1, 2);
+    draws.Of(3, {1});
+    draws.Of(5, {2});
+    draws.Of(2, {1});
     EXPECT_TRUE(Place("cat", 5, 5));
   }
   EXPECT_EQ(Corner(grid, 5, 5), ".....\ncat..\n.....\n.....\n.....\n");
@@ -294,9 +296,9 @@ TEST_F(PuzzlePlacerTest, TwoEqualWordsMayLieOnTheSameCells) {
 
 TEST_F(PuzzlePlacerTest, AnEmptyWordTakesItsDrawsAndNoCell) {
   grid.Write("xxx", {1, 1, Direction::Across});
-  draws.Add(1, 3);
-  draws.Add(1, 3);
-  draws.Add(3, 3);
+  draws.Of(3, {1});
+  draws.Of(3, {1});
+  draws.Of(3, {3});
   EXPECT_TRUE(Place("", 3, 3));
   EXPECT_EQ(Corner(grid, 3, 3), "xxx\n...\n...\n");
   EXPECT_EQ(draws.Left(), 0U);

@@ -14,7 +14,7 @@ TEST_F(QuizDraws, AQuestionReseedsOnceAndDrawsUntilAWordIsMarked) {
   draws.Of(6, {1, 6, 3, 4, 4});
   EXPECT_EQ(PickQuestionWord(shared, draws), 4);
   EXPECT_EQ(draws.Left(), 1u);
-  EXPECT_EQ(draws.Reseeds(), 1);
+  EXPECT_EQ(draws.Reseeds().size(), 1u);
 }
 
 TEST_F(QuizDraws, AWordThatIsNotMarkedIsNeverPicked) {

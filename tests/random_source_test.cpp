@@ -9,10 +9,10 @@ namespace brindlepage {
 namespace {
 
 // Gives the same number at each draw.
-class OneNumber : public RandomSource {
+class OneNumber : public DrawByDraw {
  public:
   explicit OneNumber(float number) : number_(number) {}
-  float NextRandom() override { return number_; }
+  float Draw() override { return number_; }
   void Reseed() override {}
 
  private:
@@ -32,8 +32,10 @@ TEST(Xoshiro, DrawsWhatTheGeneratorIsDefinedToGive) {
   // state is 7B1DCDAF E220A839 A1B965F4 6E789E6A. First and last add up to E9966C19, after one
   // step to B8F8985E; 24 bits of each are the draw.
   Xoshiro generator(0);
-  EXPECT_EQ(generator.Next(), static_cast<float>(0xE9966C) / 16777216.0f);
-  EXPECT_EQ(generator.Next(), static_cast<float>(0xB8F898) / 16777216.0f);
+  std::array<float, 2> numbers;
+  generator.Fill(numbers);
+  EXPECT_EQ(numbers[0], static_cast<float>(0xE9966C) / 16777216.0f);
+  EXPECT_EQ(numbers[1], static_cast<float>(0xB8F898) / 16777216.0f);
 }
 
 TEST(SeededRandom, StaysFromZeroToBelowOne) {

@@ -14,7 +14,7 @@ namespace brindlepage {
 //   ToldDraws random({kReseed, {2, 3}, {1, 3}});  // reseeds, draws 2 of 3, then 1 of 3
 //
 // Whatever else it asks for fails the test, and so does what it leaves over.
-class ToldDraws : public RandomSource {
+class ToldDraws : public DrawByDraw {
  public:
   struct Step {
     int index;  // what DrawIndex gives
@@ -28,7 +28,7 @@ class ToldDraws : public RandomSource {
     for (int i = 0; i < times; ++i) steps_.insert(steps_.end(), steps.begin(), steps.end());
   }
 
-  float NextRandom() override {
+  float Draw() override {
     const Step step = Next();
     if (step.of == 0) throw std::logic_error("a draw where a reseeding is due");
     return (static_cast<float>(step.index) - 0.5f) / static_cast<float>(step.of);
@@ -50,11 +50,11 @@ class ToldDraws : public RandomSource {
 inline constexpr ToldDraws::Step kReseed{0, 0};
 
 // For what never ends: any numbers, until there were too many.
-class EndlessDraws : public RandomSource {
+class EndlessDraws : public DrawByDraw {
  public:
   struct NeverEnds {};
 
-  float NextRandom() override {
+  float Draw() override {
     if (++draws_ > 100'000) throw NeverEnds();
     return source_.NextRandom();
   }

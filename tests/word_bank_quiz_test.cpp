@@ -40,7 +40,7 @@ TEST_F(WordBankQuiz, FourWordsFillOneRowWithTheirKey) {
   ExpectKey({" 1)  magma\n", "\n", " 2)  lava\n", "\n", " 3)  vent\n", "\n", " 4)  ash\n", "\n"});
   EXPECT_EQ(shared.AnswerTable(1), 3);
   EXPECT_EQ(shared.AnswerTable(4), 2);
-  EXPECT_EQ(draws.Reseeds(), 8);
+  EXPECT_EQ(draws.Reseeds().size(), 8u);
 }
 
 TEST_F(WordBankQuiz, FiveWordsMakeASecondRowWithTheirKey) {

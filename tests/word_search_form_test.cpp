@@ -1,6 +1,8 @@
 #include "wordsearch/word_search_form.h"
 
-#include "tests/puzzle_draws.h"
+#include <gtest/gtest.h>
+
+#include "tests/given_draws.h"
 #include "tests/teacher.h"
 
 namespace brindlepage {
@@ -51,7 +53,7 @@ class WordSearchFormTest : public Teacher {
   }
 
   SharedState& shared = program.shared;
-  PuzzleDraws draws;
+  GivenDraws draws;
 };
 
 TEST_F(WordSearchFormTest, FromTheMenuToTheFinishedSheetInAllThreeDirections) {
@@ -59,26 +61,26 @@ TEST_F(WordSearchFormTest, FromTheMenuToTheFinishedSheetInAllThreeDirections) {
   Size(10, 10);
   program.UseRandom(draws);
   // Mars across in row 10 from column 6.
-  draws.Add(1, 3);
-  draws.Add(10, 10);
-  draws.Add(6, 6);
+  draws.Of(3, {1});
+  draws.Of(10, {10});
+  draws.Of(6, {6});
   // Venus down in column 10 from row 5.
-  draws.Add(2, 3);
-  draws.Add(10, 10);
-  draws.Add(5, 5);
+  draws.Of(3, {2});
+  draws.Of(10, {10});
+  draws.Of(5, {5});
   // Earth down to the right from row 5, column 1.
-  draws.Add(3, 3);
-  draws.Add(5, 5);
-  draws.Add(1, 5);
+  draws.Of(3, {3});
+  draws.Of(5, {5});
+  draws.Of(5, {1});
   const std::string fillers[] = {"QQQQQQQQQQ", "RRRRRRRRRR", "SSSSSSSSSS", "TTTTTTTTTT", "UUUUUUUU",
                                  "VVVVVVVV",   "WWWWWWWW",   "XXXXXXXX",   "YYYYYYYY",   "ZZZZZZ"};
-  for (const std::string& letters : fillers) draws.AddLetters(letters);
+  for (const std::string& letters : fillers) draws.Letters(letters);
   Ok();
 
   EXPECT_TRUE(Active(Screen::WordSearchForm));
   EXPECT_FALSE(Loaded(Screen::PuzzleSize));
   EXPECT_EQ(draws.Left(), 0U);
-  EXPECT_EQ(draws.reseeds,
+  EXPECT_EQ(draws.Reseeds(),
             (std::vector<std::size_t>{0, 3, 6, 9, 19, 29, 39, 49, 57, 65, 73, 81, 89}));
   EXPECT_EQ(TextOf(Sheet().QuizBox),
             "\nName_____________________________     Date_______________\n\n"
@@ -156,10 +158,10 @@ TEST_F(WordSearchFormTest, AnEasyPuzzleHasNoDiagonalAndTheNextOneNeither) {
   WalkToPuzzleSize({0}, true);
   Size(10, 10);
   program.UseRandom(draws);
-  draws.Add(2, 2);
-  draws.Add(4, 10);
-  draws.Add(6, 6);
-  draws.AddLetters(std::string(96, 'Z'));
+  draws.Of(2, {2});
+  draws.Of(10, {4});
+  draws.Of(6, {6});
+  draws.Letters(std::string(96, 'Z'));
   Ok();
   EXPECT_EQ(draws.Left(), 0U);
   Click(Screen::WordSearchForm, "Back");
@@ -177,11 +179,11 @@ TEST_F(WordSearchFormTest, AnEasyPuzzleHasNoDiagonalAndTheNextOneNeither) {
   Click(Screen::QuizOptions, "Command1");
   Size(10, 10);
   for (int word = 0; word < 3; ++word) {
-    draws.Add(1, 2);  // one of two
-    draws.Add(1 + word, 10);
-    draws.Add(1, word == 0 ? 6 : 5);
+    draws.Of(2, {1});  // one of two
+    draws.Of(10, {1 + word});
+    draws.Of(word == 0 ? 6 : 5, {1});
   }
-  draws.AddLetters(std::string(86, 'Z'));
+  draws.Letters(std::string(86, 'Z'));
   Ok();
   EXPECT_EQ(draws.Left(), 0U);
   EXPECT_TRUE(shared.EasyPuzzle);

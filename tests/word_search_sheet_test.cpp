@@ -1,11 +1,13 @@
 #include "wordsearch/word_search_sheet.h"
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <numeric>
 #include <string>
 #include <vector>
 
-#include "tests/puzzle_draws.h"
+#include "tests/given_draws.h"
 #include "wordsearch/puzzle_builder.h"
 
 namespace brindlepage {
@@ -71,7 +73,7 @@ class WordSearchSheetTest : public ::testing::Test {
 
   SharedState shared;
   PuzzleGrid grid;
-  PuzzleDraws draws;
+  GivenDraws draws;
   RichText box{"Courier New", 9.75};
   RichText key{"Courier New", 12};
   const std::string rule = std::string(90, '_');
@@ -107,9 +109,9 @@ TEST_F(WordSearchSheetTest, AnEmptiedHeadingGivesAnEmptyTitleLine) {
 TEST_F(WordSearchSheetTest, ARowHasABlankBeforeEachLetterAndNoneAtItsEnd) {
   UseSize(4, 3);
   grid.Write("Cat", {1, 2, Direction::Across});
-  draws.AddLetters("ABYZ");
-  draws.AddLetters("Q");
-  draws.AddLetters("MNOP");
+  draws.Letters("ABYZ");
+  draws.Letters("Q");
+  draws.Letters("MNOP");
   word_search::WritePuzzleRows(box, shared, grid, draws);
   EXPECT_EQ(RunsOf(box), (std::vector<std::string>{
                              "Courier New 240 --- c| A B Y Z\n",
@@ -117,14 +119,14 @@ TEST_F(WordSearchSheetTest, ARowHasABlankBeforeEachLetterAndNoneAtItsEnd) {
                              "Courier New 240 --- c| M N O P\n",
                          }));
   // Anew for each row.
-  EXPECT_EQ(draws.reseeds, (std::vector<std::size_t>{0, 4, 5}));
+  EXPECT_EQ(draws.Reseeds(), (std::vector<std::size_t>{0, 4, 5}));
   EXPECT_EQ(draws.Left(), 0U);
 }
 
 TEST_F(WordSearchSheetTest, AccentedLettersAreCapitalsOnTheSheetAndAsInTheListInTheKey) {
   UseSize(4, 1);
   grid.Write("\xE9t\xE9", {1, 1, Direction::Across});
-  draws.AddLetters("Z");
+  draws.Letters("Z");
   word_search::WritePuzzleRows(box, shared, grid, draws);
   word_search::MakePuzzleKey(key, shared, grid);
   EXPECT_EQ(box.PlainText(), U" \u00C9 T \u00C9 Z\n");
@@ -134,7 +136,7 @@ TEST_F(WordSearchSheetTest, AccentedLettersAreCapitalsOnTheSheetAndAsInTheListIn
 TEST_F(WordSearchSheetTest, AKeptBlankIsAGapOnTheSheetAndABoldBlankInTheKey) {
   UseSize(5, 1);
   grid.Write("a b", {1, 1, Direction::Across});
-  draws.AddLetters("YZ");
+  draws.Letters("YZ");
   word_search::WritePuzzleRows(box, shared, grid, draws);
   word_search::MakePuzzleKey(key, shared, grid);
   EXPECT_EQ(LinesOf(box)[0], " A   B Y Z");
@@ -146,16 +148,16 @@ TEST_F(WordSearchSheetTest, AKeptBlankIsAGapOnTheSheetAndABoldBlankInTheKey) {
 TEST_F(WordSearchSheetTest, HyphensApostrophesAndDigitsStandAsTheyAre) {
   UseSize(6, 1);
   grid.Write("o'3-x", {1, 1, Direction::Across});
-  draws.AddLetters("K");
+  draws.Letters("K");
   word_search::WritePuzzleRows(box, shared, grid, draws);
   EXPECT_EQ(LinesOf(box)[0], " O ' 3 - X K");
 }
 
 TEST_F(WordSearchSheetTest, TheFillersReachFromAToZ) {
   UseSize(2, 1);
-  class Ends : public RandomSource {
+  class Ends : public DrawByDraw {
    public:
-    float NextRandom() override { return ++count_ == 1 ? 0.0F : 0x1.FFFFFEp-1F; }
+    float Draw() override { return ++count_ == 1 ? 0.0F : 0x1.FFFFFEp-1F; }
     void Reseed() override {}
 
    private:

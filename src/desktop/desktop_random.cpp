@@ -12,6 +12,16 @@ void DesktopRandom::BeginHandler() {
   waiting_since_.reset();
 }
 
+std::span<const float> DesktopRandom::MakeNumbers() {
+  const std::span<const float> numbers = ClockRandom::MakeNumbers();
+  draws_ += numbers.size();
+  if (draws_ >= kDrawsBetweenLooks) {
+    draws_ = 0;
+    LookAtClock();
+  }
+  return numbers;
+}
+
 void DesktopRandom::LookAtClock() {
   if (!waiting_since_) waiting_since_ = now_();
   if (now_() - *waiting_since_ <= kPatience) return;

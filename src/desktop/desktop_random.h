@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
 #include <optional>
+#include <span>
 
 #include "toolkit/random_source.h"
 #include "toolkit/timer.h"
@@ -14,7 +15,7 @@ namespace brindlepage {
 class DesktopRandom : public ClockRandom {
  public:
   static constexpr Milliseconds kPatience = 10'000;
-  static constexpr std::uint32_t kDrawsBetweenLooks = 65536;
+  static constexpr std::size_t kDrawsBetweenLooks = 65536;
 
   // `now` tells the time; `still_waiting` asks the teacher. It may throw, to end the program.
   DesktopRandom(std::function<Milliseconds()> now, std::function<void()> still_waiting);
@@ -22,17 +23,13 @@ class DesktopRandom : public ClockRandom {
   // A handler begins, and with it the teacher's patience.
   void BeginHandler();
 
-  float NextRandom() override {
-    if (++draws_ % kDrawsBetweenLooks == 0) LookAtClock();
-    return ClockRandom::NextRandom();
-  }
-
  private:
+  std::span<const float> MakeNumbers() override;
   void LookAtClock();
 
   std::function<Milliseconds()> now_;
   std::function<void()> still_waiting_;
-  std::uint32_t draws_ = 0;
+  std::size_t draws_ = 0;                      // since the last look
   std::optional<Milliseconds> waiting_since_;  // the first look of this handler
 };
 

@@ -1,5 +1,6 @@
 #include "toolkit/random_source.h"
 
+#include <algorithm>
 #include <atomic>
 #include <bit>
 #include <chrono>
@@ -27,28 +28,45 @@ std::uint64_t ClockSeed() {
 }  // namespace
 
 void Xoshiro::Seed(std::uint64_t seed) {
-  for (int i = 0; i < 4; i += 2) {
+  for (std::size_t i = 0; i < state_.size(); i += 2) {
     std::uint64_t bits = SplitMix(seed);
     state_[i] = static_cast<std::uint32_t>(bits);
     state_[i + 1] = static_cast<std::uint32_t>(bits >> 32);
   }
 }
 
-float Xoshiro::Next() {
-  std::uint32_t sum = state_[0] + state_[3];
-  std::uint32_t shifted = state_[1] << 9;
-  state_[2] ^= state_[0];
-  state_[3] ^= state_[1];
-  state_[1] ^= state_[2];
-  state_[0] ^= state_[3];
-  state_[2] ^= shifted;
-  state_[3] = std::rotl(state_[3], 11);
-  // The upper bits are the good ones, and 24 are what a float can hold.
-  return static_cast<float>(sum >> 8) * 0x1.0p-24f;
+void Xoshiro::Fill(std::span<float> numbers) {
+  auto [a, b, c, d] = state_;
+  for (float& number : numbers) {
+    const std::uint32_t sum = a + d;
+    const std::uint32_t shifted = b << 9;
+    c ^= a;
+    d ^= b;
+    b ^= c;
+    a ^= d;
+    c ^= shifted;
+    d = std::rotl(d, 11);
+    // The upper bits are the good ones, and 24 are what a float can hold.
+    number = static_cast<float>(sum >> 8) * 0x1.0p-24f;
+  }
+  state_ = {a, b, c, d};
 }
 
-ClockRandom::ClockRandom() : generator_(ClockSeed()) {}
+void GeneratedDraws::Seed(std::uint64_t seed) {
+  generator_.Seed(seed);
+  DropNumbers();
+  count_ = 1;
+}
 
-void ClockRandom::Reseed() { generator_.Seed(ClockSeed()); }
+std::span<const float> GeneratedDraws::MakeNumbers() {
+  const std::span<float> made = std::span(numbers_).first(count_);
+  generator_.Fill(made);
+  count_ = std::min(2 * count_, numbers_.size());
+  return made;
+}
+
+ClockRandom::ClockRandom() : GeneratedDraws(ClockSeed()) {}
+
+void ClockRandom::Reseed() { Seed(ClockSeed()); }
 
 }  // namespace brindlepage

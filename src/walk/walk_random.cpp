@@ -9,11 +9,11 @@ namespace brindlepage::walk {
 namespace {
 
 // The draws that a script gives, in its order.
-class GivenDraws : public RandomSource {
+class GivenDraws : public DrawByDraw {
  public:
   explicit GivenDraws(std::vector<float> draws) : draws_(std::move(draws)) {}
 
-  float NextRandom() override {
+  float Draw() override {
     if (next_ == draws_.size()) throw ScriptError("the draws are used up");
     return draws_[next_++];
   }
@@ -35,7 +35,7 @@ void WalkRandom::GiveDraws(std::vector<float> draws) {
   source_ = std::make_unique<GivenDraws>(std::move(draws));
 }
 
-float WalkRandom::NextRandom() {
+float WalkRandom::Draw() {
   if (drawn_by_command_ == draw_limit_) throw NotResponding();
   const float draw = source_->NextRandom();
   ++drawn_by_command_;

@@ -13,7 +13,7 @@ struct NotResponding {};
 
 // The random numbers of a walk: the program's own generator until the script gives a seed or the
 // very draws. It counts what is asked of it, from the start of the walk.
-class WalkRandom : public RandomSource {
+class WalkRandom : public DrawByDraw {
  public:
   // `draw_limit`: how many draws one command may make.
   explicit WalkRandom(std::int64_t draw_limit);
@@ -26,11 +26,12 @@ class WalkRandom : public RandomSource {
   std::int64_t Draws() const { return draws_; }
   std::int64_t Reseeds() const { return reseeds_; }
 
-  // Throws NotResponding at the limit, and ScriptError when the given draws are used up.
-  float NextRandom() override;
   void Reseed() override;
 
  private:
+  // Throws NotResponding at the limit, and ScriptError when the given draws are used up.
+  float Draw() override;
+
   std::unique_ptr<RandomSource> source_;
   std::int64_t draw_limit_;
   std::int64_t drawn_by_command_ = 0;

@@ -26,7 +26,7 @@ class Stage {
   Loop& loop() { return loop_; }
   Windows& windows() { return *windows_; }
 
-  void Seed(std::uint64_t seed) { random_ = SeededRandom(seed); }
+  void Seed(std::uint64_t seed) { random_.Seed(seed); }
 
   // The loaded form of that name, or null.
   Form* Find(const std::string& form);
