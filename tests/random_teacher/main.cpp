@@ -4,15 +4,17 @@
 //     random_teacher PROGRAM_FOLDER [--seconds N] [--seed N] [--rounds N]
 //
 // Each round acts in a fresh copy of the folder, and starts the program again when it has ended.
-// At a finding the round's lines go into random_teacher.walk, which brindlepage-walk plays again
-// with --draw-limit 2000000 in a fresh copy, and the status is 1.
+// The status is 1 if it found an end that nobody has stated, a list file that is not as a simple
+// model of it says, or, given time enough, a form that never comes up.
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstring>
 #include <fstream>
 #include <iostream>
 
+#include "tests/random_teacher/fresh_folder.h"
 #include "tests/random_teacher/round.h"
 #include "tests/random_teacher/stated_ends.h"
 #include "tests/temp_folder.h"
@@ -47,33 +49,46 @@ bool Read(int count, char** words, Options& options) {
   return true;
 }
 
-void Keep(const Round& round) {
-  std::ofstream file("random_teacher.walk");
-  for (const std::string& line : round.script()) file << line << '\n';
-}
-
 // What is wrong with this round, or nothing.
-std::string PlayInFreshFolder(const fs::path& program_folder, Round& round, Ends& ends) {
+std::string PlayInFreshFolder(const fs::path& program_folder, Round& round, Tally& tally) {
   TempFolder folder;
-  fs::copy(program_folder, folder.Path(), fs::copy_options::recursive);
-  fs::create_directory(folder.Path() / "class");
-  Ends met;
+  FillFreshFolder(program_folder, folder.Path());
+  Tally met;
   try {
     round.Play(met);
   } catch (const std::exception& fault) {
     return fault.what();
   }
-  std::string unstated;
-  for (const auto& [end, count] : met) {
-    ends[end] += count;
-    if (!IsStatedEnd(end)) unstated = end;
+  tally.Add(met);
+  for (const auto& [end, count] : met.ends) {
+    if (!IsStatedEnd(end)) return end;
   }
-  for (const char* name : {"Riddles.dat", "titleback.jpg", "brindlepagebackground.jpg"}) {
-    std::ifstream before(program_folder / name, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(before), {});
-    if (folder.Read(name) != bytes) unstated = std::string(name) + " was written to";
+  const std::string spoilt = SpoiltFile(program_folder, folder.Path());
+  return spoilt.empty() ? "" : spoilt + " was written to";
+}
+
+void TellFinding(long seed, const Round& round, const std::string& finding) {
+  constexpr std::size_t kLast = 20;
+  const auto& script = round.script();
+  std::ofstream file("random_teacher.walk");
+  for (const std::string& line : script) file << line << '\n';
+  std::cout << "seed " << seed << ": " << finding << "\nThe last deeds:\n";
+  for (std::size_t i = script.size() - std::min(script.size(), kLast); i < script.size(); ++i) {
+    std::cout << "  " << script[i] << '\n';
   }
-  return unstated;
+  std::cout << "All are in random_teacher.walk; --seed " << seed
+            << " --rounds 1 does them again.\n";
+}
+
+// Whether every form came up, where there was time enough for that.
+bool SawEverything(const Tally& tally) {
+  constexpr long kTimeEnough = 60'000;  // deeds
+  const auto missed = tally.Missed();
+  if (missed.empty() || tally.deeds < kTimeEnough) return true;
+  std::cout << "Never came up:";
+  for (const std::string& form : missed) std::cout << ' ' << form;
+  std::cout << '\n';
+  return false;
 }
 
 }  // namespace
@@ -86,20 +101,17 @@ int main(int count, char** words) {
   }
   using Clock = std::chrono::steady_clock;
   const auto until = Clock::now() + std::chrono::seconds(options.seconds);
-  Ends ends;
-  long deeds = 0;
+  Tally tally;
   long rounds = 0;
-  while (rounds < options.rounds && Clock::now() < until) {
-    Round round(static_cast<std::uint64_t>(options.seed + rounds), kLinesOfARound);
-    const std::string finding = PlayInFreshFolder(options.program_folder, round, ends);
-    deeds += static_cast<long>(round.script().size());
-    ++rounds;
+  for (; rounds < options.rounds && Clock::now() < until; ++rounds) {
+    const long seed = options.seed + rounds;
+    Round round(static_cast<std::uint64_t>(seed), kLinesOfARound);
+    const std::string finding = PlayInFreshFolder(options.program_folder, round, tally);
     if (finding.empty()) continue;
-    Keep(round);
-    std::cout << "seed " << options.seed + rounds - 1 << ": " << finding
-              << "\nIts lines are in random_teacher.walk.\n";
+    TellFinding(seed, round, finding);
     return 1;
   }
-  for (const auto& [end, met] : ends) std::cout << met << "  " << end << '\n';
-  std::cout << deeds << " deeds in " << rounds << " rounds\n";
+  tally.Print(std::cout);
+  std::cout << rounds << " rounds\n";
+  return SawEverything(tally) ? 0 : 1;
 }

@@ -1,5 +1,6 @@
 #include "tests/random_teacher/random_actions.h"
 
+#include "tests/random_teacher/inclinations.h"
 #include "toolkit/code_page.h"
 #include "toolkit/controls.h"
 #include "toolkit/file_lists.h"
@@ -23,11 +24,6 @@ const std::vector<std::string> kFolders = {"worksheets", "class", "missing", "."
 template <class Kind>
 const Kind* As(const Control& control) {
   return dynamic_cast<const Kind*>(&control);
-}
-
-bool Quits(const Control& control) {
-  return walk::Printed(control.Find("Caption").value_or(Value(""))).find("Quit") !=
-         std::string::npos;
 }
 
 }  // namespace
@@ -57,7 +53,9 @@ std::string RandomActions::Text() {
                                                   "No Lists",
                                                   "antidisestablishment",
                                                   "Volcanoes",
-                                                  "Planets",
+                                                  "Geometry",
+                                                  "The Middle Ages",
+                                                  "Solar System",
                                                   "tab\there"};
   if (OneIn(3)) {
     std::string word;
@@ -80,13 +78,21 @@ std::string RandomActions::Next(Program& program) {
   const Form& form = active != nullptr && !OneIn(6) ? *active : *AnyOf(shown);
   if (OneIn(30) || form.Controls().empty()) return OnForm(form);
 
-  std::vector<const Control*> reachable;
+  const Control* control = Reach(form);
+  return control == nullptr ? OnForm(form) : OnControl(*control);
+}
+
+// Something on the form, or null. Now and then it is out of reach.
+const Control* RandomActions::Reach(const Form& form) {
+  std::vector<const Control*> controls;
+  std::vector<int> weights;
   for (const Control* control : form.Controls()) {
-    // A teacher who is always leaving sees little.
-    if (Quits(*control) && !OneIn(20)) continue;
-    if (control->CanAct() || OneIn(20)) reachable.push_back(control);
+    const int weight = control->CanAct() || OneIn(20) ? Inclination(*control) : 0;
+    if (weight == 0) continue;
+    controls.push_back(control);
+    weights.push_back(weight);
   }
-  return reachable.empty() ? OnForm(form) : OnControl(*AnyOf(reachable));
+  return controls.empty() ? nullptr : AnyOf(controls, weights);
 }
 
 std::string RandomActions::OnForm(const Form& form) {
@@ -110,16 +116,13 @@ std::string RandomActions::OnForm(const Form& form) {
 
 std::string RandomActions::OnControl(const Control& control) {
   const std::string name = PrintedName(control);
-  if (const auto* bar = As<Toolbar>(control)) {
-    auto& button = const_cast<Toolbar*>(bar)->Button(1 + Below(bar->ButtonCount()));
-    return "click " + name + " " + QuotedBytes(button.Caption());
-  }
+  if (const auto* bar = As<Toolbar>(control)) return OnToolbar(*bar);
   // To other drives, or up out of the program's folder, the teacher doesn't go.
   if (As<DriveListBox>(control)) return "click " + name;
   if (As<DirListBox>(control)) return "folder " + name + " " + Quoted(AnyOf(kFolders));
   if (As<TextBox>(control)) {
     if (OneIn(3)) return "press " + name + " " + AnyOf(kKeys);
-    return "type " + name + " " + Quoted(Text());
+    return "type " + name + " " + Quoted(Typed(control));
   }
   if (const auto* combo = As<ComboBox>(control)) {
     if (OneIn(4)) return "select " + name + " " + Quoted(Text());
@@ -135,14 +138,33 @@ std::string RandomActions::OnControl(const Control& control) {
   return "click " + name;
 }
 
+std::string RandomActions::OnToolbar(const Toolbar& bar) {
+  std::vector<std::string> captions;
+  std::vector<int> weights;
+  for (int number = 1; number <= bar.ButtonCount(); ++number) {
+    captions.push_back(const_cast<Toolbar&>(bar).Button(number).Caption);
+    weights.push_back(Inclination(captions.back()));
+  }
+  return "click " + PrintedName(bar) + " " + QuotedBytes(AnyOf(captions, weights));
+}
+
+std::string RandomActions::Typed(const Control& box) {
+  // Folders, where one is asked for: with its list file, without one, and none at all.
+  static const std::vector<std::string> kLinks = {"class\\", ".\\",          "class\\",  ".\\",
+                                                  "class",   "worksheets\\", "missing\\"};
+  return box.form().Name() == "ChangeList" ? AnyOf(kLinks) : Text();
+}
+
 std::string RandomActions::OnList(const std::string& name, const ListBox& list) {
   if (list.ListCount() == 0 || OneIn(8)) return "press " + name + " " + AnyOf(kKeys);
-  const std::string row = std::to_string(Below(list.ListCount()));
+  // Now and then the empty part below the rows.
+  const std::string row = OneIn(12) ? "-1" : std::to_string(Below(list.ListCount()));
   if (OneIn(6)) return "double " + name + " " + row;
   if (list.style() != ListStyle::CheckBoxes) return "select " + name + " " + row;
-  std::string line = "mark " + name + " " + row;
-  for (int more = Below(12); more > 0; --more)
+  std::string line = "mark " + name;
+  for (int more = 1 + Below(12); more > 0; --more) {
     line += " " + std::to_string(Below(list.ListCount()));
+  }
   return line;
 }
 

@@ -18,9 +18,9 @@ struct StatedEnd {
 constexpr StatedEnd kStatedEnds[] = {
     // A list renamed before it was saved is looked for past the end of the file.
     {"error 6 \"Overflow\"", " EditList DeleteList AddWord EditWord ChangeListName MakeNewList "},
-    // Rows of a first list that are one off.
+    // Rows of a first list that are one off, and deeds on a row where none is selected.
     {"error 5 \"Invalid procedure call or argument\"",
-     " EditList EditChooseList AddWord EditWord ChangeListName "},
+     " EditList EditChooseList AddWord EditWord ChangeListName MakeNewList "},
     // Bounds: a word of 26 letters, a twenty-first riddle, 151 words of a riddle sheet.
     {"error 9 \"Subscript out of range\"",
      " tick PickWords QuizOptions QuizOptions5 ChooseRiddle RiddleOption1 JustForFun "},
