@@ -69,6 +69,10 @@ void Bystander::Look(Program& program) {
     if (watched_[form.get()].expired()) Watch(*form);
   }
   TakeUpChanges();
+  if (const Form* maker = Loaded("MakeNewList"); maker != nullptr && taken_back_) {
+    CheckBoxes(*maker, *taken_back_);
+  }
+  taken_back_.reset();
   if (Loaded("MakeNewList") == nullptr) made_.reset();
   if (Loaded("EditList") == nullptr) edited_.reset();
   // An editor left open behind another screen looks for the list that was chosen there.
@@ -104,6 +108,7 @@ void Bystander::Answered(std::string_view title, BoxAnswer answer) {
 }
 
 std::string Bystander::Compare() const {
+  if (!misshown_.empty()) return misshown_;
   for (const fs::path& folder : {folder_, folder_ / "class"}) {
     for (const char* name : {"TheLists.dat", "TheLists.bak"}) {
       const fs::path path = folder / name;
@@ -177,7 +182,7 @@ void Bystander::WatchMaker(Form& form) {
   if (form.Name() != "MakeNewList") return;
   auto& words = Part<ListBox>(form, "WordList1");
   const auto add = [this, &form] { AddPair(form); };
-  const auto take_back = [this, &words] { RemovePair(words.ListIndex); };
+  const auto take_back = [this, &words] { TakeBackPair(words.ListIndex); };
   Before(Part<TextBox>(form, "TheWord").Enter, add);
   Before(Part<TextBox>(form, "TheMeaning").Enter, add);
   Before(words.DblClick, take_back);
@@ -216,6 +221,13 @@ void Bystander::WatchBoxes(Form& form) {
     Before(Part<Control>(form, "Command1").Click, add);
   }
   if (form.Name() == "EditWord") {
+    // The two lists may have different rows selected.
+    const auto pair_at = [this](const char* list) {
+      const auto row = std::size_t(Part<ListBox>(*Loaded("EditList"), list).ListIndex());
+      const bool there = edited_ && row < edited_->pairs.size();
+      return there ? edited_->pairs[row] : std::pair<std::string, std::string>();
+    };
+    CheckBoxes(form, {pair_at("WordList").first, pair_at("DefList").second});
     Before(Part<Control>(form, "Command1").Click, [this, &form] {
       if (!edited_) return;
       edited_->coming.push_back(
@@ -256,6 +268,14 @@ void Bystander::RemovePair(int row) {
   if (!made_ || row < 0 || at + 2 > made_->size()) return;
   made_->erase(made_->begin() + std::ptrdiff_t(at), made_->begin() + std::ptrdiff_t(at) + 2);
   ++noted_["words taken back"];
+}
+
+void Bystander::TakeBackPair(int row) {
+  const std::size_t at = std::size_t(std::max(row, 0)) * 2 + 2;
+  if (made_ && row >= 0 && at + 2 <= made_->size()) {
+    taken_back_ = std::pair{(*made_)[at], (*made_)[at + 1]};
+  }
+  RemovePair(row);
 }
 
 void Bystander::BeginEdit(const std::string& name) {
@@ -308,6 +328,13 @@ void Bystander::SaveEdited() {
   if (ListFile()->Replace(edited_->name, edited_->caption, edited_->pairs)) {
     ++noted_["lists edited"];
   }
+}
+
+void Bystander::CheckBoxes(const Form& form, const std::pair<std::string, std::string>& pair) {
+  const auto shown = std::pair{TextIn(form, "TheWord"), TextIn(form, "TheMeaning")};
+  if (shown == pair) return;
+  misshown_ = form.Name() + " shows " + shown.first + "|" + shown.second + " and should show " +
+              pair.first + "|" + pair.second;
 }
 
 void Bystander::BackUp() {

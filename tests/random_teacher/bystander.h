@@ -32,7 +32,7 @@ class Bystander {
 
   // What was done, and how often: "words added".
   const std::map<std::string, long>& Noted() const { return noted_; }
-  // What is wrong with the files, or "".
+  // What is wrong with the files, or with the boxes that show a word for changing; or "".
   std::string Compare() const;
 
  private:
@@ -64,10 +64,12 @@ class Bystander {
   void BeginList(const std::string& name);
   void AddPair(Form& maker);
   void RemovePair(int row);
+  void TakeBackPair(int row);
   void BeginEdit(const std::string& name);
   void DeleteRow();
   void Rename(const std::string& name);
   void TakeUpChanges();
+  void CheckBoxes(const Form& form, const std::pair<std::string, std::string>& pair);
   void SaveMade();
   void SaveEdited();
   void BackUp();
@@ -97,6 +99,8 @@ class Bystander {
   std::optional<Made> made_;
   std::optional<Edited> edited_;
   int selected_row_ = 0;
+  std::optional<std::pair<std::string, std::string>> taken_back_;  // to be in the boxes now
+  std::string misshown_;
 };
 
 }  // namespace brindlepage

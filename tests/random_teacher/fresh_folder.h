@@ -6,12 +6,13 @@
 namespace brindlepage {
 
 // Makes `folder`, which is empty, a copy of the program folder with what a teacher may have added:
-// a picture, and a folder "class" with a picture and a short list file in it.
+// a picture, and a folder "class" with a picture and a short list file in it. `round` decides how
+// the list file begins: as it comes with the program, as another one, or without any list.
 void FillFreshFolder(const std::filesystem::path& program_folder,
-                     const std::filesystem::path& folder);
+                     const std::filesystem::path& folder, long round);
 
-// The name of a file in `folder` that is not as it is in the program folder though no screen
-// writes it, or "".
+// "..., which no screen writes, was written to", or "" where all such files in `folder` are as they
+// are in the program folder.
 std::string SpoiltFile(const std::filesystem::path& program_folder,
                        const std::filesystem::path& folder);
 

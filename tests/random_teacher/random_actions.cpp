@@ -28,45 +28,6 @@ const Kind* As(const Control& control) {
 
 }  // namespace
 
-int RandomActions::Below(int limit) {
-  return static_cast<int>(random_() % static_cast<std::uint64_t>(limit));
-}
-
-std::string RandomActions::Text() {
-  static const std::vector<std::string> kTexts = {"lava",
-                                                  "ash",
-                                                  "a",
-                                                  "",
-                                                  " ",
-                                                  "Mount Etna",
-                                                  "caf\u00e9",
-                                                  "\u03a9",
-                                                  "*****",
-                                                  "*",
-                                                  "12",
-                                                  "x-ray",
-                                                  "hot rock",
-                                                  "a\"b",
-                                                  "c:\\d",
-                                                  "what?",
-                                                  "<New List>",
-                                                  "No Lists",
-                                                  "antidisestablishment",
-                                                  "Volcanoes",
-                                                  "Geometry",
-                                                  "The Middle Ages",
-                                                  "Solar System",
-                                                  "tab\there"};
-  if (OneIn(3)) {
-    std::string word;
-    for (int length = 1 + Below(20); length > 0; --length) {
-      word += static_cast<char>('a' + Below(26));
-    }
-    return word;
-  }
-  return AnyOf(kTexts);
-}
-
 std::string RandomActions::Next(Program& program) {
   if (OneIn(8)) return "tick " + std::to_string(1 + Below(OneIn(10) ? 60'000 : 50));
   std::vector<const Form*> shown;
@@ -120,10 +81,7 @@ std::string RandomActions::OnControl(const Control& control) {
   // To other drives, or up out of the program's folder, the teacher doesn't go.
   if (As<DriveListBox>(control)) return "click " + name;
   if (As<DirListBox>(control)) return "folder " + name + " " + Quoted(AnyOf(kFolders));
-  if (As<TextBox>(control)) {
-    if (OneIn(3)) return "press " + name + " " + AnyOf(kKeys);
-    return "type " + name + " " + Quoted(Typed(control));
-  }
+  if (const auto* box = As<TextBox>(control)) return OnTextBox(name, *box);
   if (const auto* combo = As<ComboBox>(control)) {
     if (OneIn(4)) return "select " + name + " " + Quoted(Text());
     return "select " + name + " " + std::to_string(Below(std::max(combo->ListCount(), 1)));
@@ -148,11 +106,14 @@ std::string RandomActions::OnToolbar(const Toolbar& bar) {
   return "click " + PrintedName(bar) + " " + QuotedBytes(AnyOf(captions, weights));
 }
 
-std::string RandomActions::Typed(const Control& box) {
-  // Folders, where one is asked for: with its list file, without one, and none at all.
-  static const std::vector<std::string> kLinks = {"class\\", ".\\",          "class\\",  ".\\",
-                                                  "class",   "worksheets\\", "missing\\"};
-  return box.form().Name() == "ChangeList" ? AnyOf(kLinks) : Text();
+std::string RandomActions::OnTextBox(const std::string& name, const TextBox& box) {
+  const bool confirms = box.Enter && !box.Text().empty();
+  if (confirms && OneIn(5)) return "press " + name + " Enter";
+  if (OneIn(4)) return "press " + name + " " + AnyOf(kKeys);
+  const std::string& form = box.form().Name();
+  if (form == "ChangeList") return "type " + name + " " + Quoted(Link());
+  if (form == "ChangeListName" && OneIn(2)) return "type " + name + " " + Quoted(ListName());
+  return "type " + name + " " + Quoted(Text());
 }
 
 std::string RandomActions::OnList(const std::string& name, const ListBox& list) {

@@ -41,8 +41,9 @@ constexpr StatedEnd kStatedEnds[] = {
     {"error 76 \"Path not found\"", " AddPic "},
     // Handlers that address what is no control.
     {"error 424 \"Object required\"", " ChangeList DeleteList EditChooseList MakeNewList "},
-    // Draws that can never succeed.
-    {"not responding", " tick PickWords QuizOptions QuizOptions5 PuzzleSize RiddleOption1 "},
+    // Draws that can never succeed; AddPic makes a worksheet anew that was closed behind it, when
+    // its words have been used up.
+    {"not responding", " tick PickWords QuizOptions QuizOptions5 PuzzleSize RiddleOption1 AddPic "},
 };
 
 }  // namespace
@@ -55,6 +56,13 @@ bool IsStatedEnd(std::string_view end) {
   return std::any_of(std::begin(kStatedEnds), std::end(kStatedEnds), [&](const StatedEnd& stated) {
     return stated.end == what && stated.forms.find(form) != std::string_view::npos;
   });
+}
+
+std::string FirstUnstatedEnd(const Tally& tally) {
+  for (const auto& [end, count] : tally.ends) {
+    if (!IsStatedEnd(end)) return end;
+  }
+  return "";
 }
 
 }  // namespace brindlepage

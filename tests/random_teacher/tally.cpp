@@ -43,6 +43,14 @@ std::vector<std::string> Tally::Missed() const {
   return missed;
 }
 
+void PrintLast(std::ostream& out, const std::vector<std::string>& deeds) {
+  constexpr std::size_t kLast = 20;
+  out << "The last deeds:\n";
+  for (std::size_t i = deeds.size() - std::min(deeds.size(), kLast); i < deeds.size(); ++i) {
+    out << "  " << deeds[i] << '\n';
+  }
+}
+
 void VisitCounter::Look(const Forms& forms, Tally& tally) {
   std::vector<std::string> now;
   for (const auto& form : forms.Loaded()) {

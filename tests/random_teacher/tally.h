@@ -27,6 +27,9 @@ struct Tally {
   std::vector<std::string> Missed() const;
 };
 
+// The last deeds, a line each.
+void PrintLast(std::ostream& out, const std::vector<std::string>& deeds);
+
 // Counts visits between deeds.
 class VisitCounter {
  public:
