@@ -3,7 +3,10 @@
 //
 //     random_teacher PROGRAM_FOLDER [--seconds N] [--seed N] [--rounds N]
 //
-// Each round acts in a fresh copy of the folder, and starts the program again when it has ended.
+// Each round acts in a fresh copy of the folder, with a seed of its own, the first with that of the
+// option, and starts the program again when it has ended. To use more than one processor, run it
+// more than once, with seeds a million apart, each in a folder of its own: there a finding's deeds
+// are left, in random_teacher.walk.
 // The status is 1 if it found an end that nobody has stated, a list file that is not as a simple
 // model of it says, or, given time enough, a form that never comes up.
 
