@@ -6,7 +6,7 @@
 // Each round acts in a fresh copy of the folder, with a seed of its own, the first with that of the
 // option, and starts the program again when it has ended. To use more than one processor, run it
 // more than once, with seeds a million apart, each in a folder of its own: there a finding's deeds
-// are left, in random_teacher.walk.
+// are left, in random_teacher.walk. Should the program crash, random_teacher.seed tells the seed.
 // The status is 1 if it found an end that nobody has stated, a list file that is not as a simple
 // model of it says, or, given time enough, a form that never comes up.
 
@@ -74,6 +74,7 @@ int main(int count, char** words) {
   long rounds = 0;
   for (; rounds < options.rounds && Clock::now() < until; ++rounds) {
     const long seed = options.seed + rounds;
+    std::ofstream("random_teacher.seed") << seed << '\n';
     Round round(static_cast<std::uint64_t>(seed), kLinesOfARound);
     const std::string finding = PlayInFreshFolder(options.program_folder, seed, round, tally);
     if (finding.empty()) continue;

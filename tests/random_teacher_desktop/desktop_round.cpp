@@ -15,11 +15,16 @@
 
 namespace brindlepage {
 
-DesktopRound::DesktopRound(std::uint64_t seed, Clock::time_point until)
-    : dice_(seed), until_(until), boxes_(dice_, [this](const std::string& title, BoxAnswer answer) {
-        Note("  answers " + title + " with " + std::to_string(int(answer)));
-        bystander_->Answered(title, answer);
-      }) {}
+DesktopRound::DesktopRound(std::uint64_t seed, Clock::time_point until, std::ostream& log)
+    : dice_(seed),
+      until_(until),
+      boxes_(dice_,
+             [this](const std::string& title, BoxAnswer answer) {
+               static const char* const kAnswers[] = {"OK", "Yes", "No", "Cancel"};
+               Note("  answers " + title + " with " + kAnswers[int(answer)]);
+               bystander_->Answered(title, answer);
+             }),
+      log_(log) {}
 
 std::string DesktopRound::Play(int deeds, Tally& tally) {
   tally_ = &tally;
@@ -154,7 +159,10 @@ void DesktopRound::LetTimePass() {
   if (waits || dice_.OneIn(150)) QTest::qWait(1100);
 }
 
-void DesktopRound::Note(const std::string& deed) { deeds_.push_back(deed); }
+void DesktopRound::Note(const std::string& deed) {
+  deeds_.push_back(deed);
+  log_ << deed << std::endl;
+}
 
 std::string DesktopRound::NoteEnd() {
   const std::string end = boxes_.Fault().empty() ? "end" : boxes_.Fault();

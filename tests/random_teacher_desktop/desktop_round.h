@@ -3,6 +3,7 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,8 @@ class DesktopRound {
  public:
   using Clock = std::chrono::steady_clock;
 
-  DesktopRound(std::uint64_t seed, Clock::time_point until);
+  // Each deed is written to `log` before it is done.
+  DesktopRound(std::uint64_t seed, Clock::time_point until, std::ostream& log);
 
   // Plays in the working directory, which is a program folder, and starts the program again when
   // it has ended, until that many deeds are done or the time is over. What is wrong, or "".
@@ -52,6 +54,7 @@ class DesktopRound {
   BoxAnswers boxes_;
   VisitCounter visits_;
   std::unique_ptr<Desktop> desktop_;
+  std::ostream& log_;
   std::vector<std::string> deeds_;
   std::string form_;  // on which the teacher acted last
   Tally* tally_ = nullptr;

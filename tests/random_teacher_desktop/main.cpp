@@ -3,9 +3,11 @@
 //     random_teacher_desktop PROGRAM_FOLDER [--seconds N] [--seed N] [--rounds N]
 //
 // As random_teacher, but what happens depends on the time as well, so that a seed does much the
-// same again, and not exactly.
+// same again, and not exactly. The deeds of the round are in random_teacher_desktop.deeds, also
+// when the program has crashed.
 
 #include <QApplication>
+#include <fstream>
 #include <iostream>
 
 #include "desktop/style.h"
@@ -57,7 +59,9 @@ int main(int count, char** words) {
   long rounds = 0;
   for (; rounds < options.rounds && DesktopRound::Clock::now() < until; ++rounds) {
     const long seed = options.seed + rounds;
-    DesktopRound round(static_cast<std::uint64_t>(seed), until);
+    std::ofstream log("random_teacher_desktop.deeds");
+    log << "seed " << seed << std::endl;
+    DesktopRound round(static_cast<std::uint64_t>(seed), until, log);
     const std::string finding = PlayInFreshFolder(options, seed, round, tally);
     if (finding.empty()) continue;
     std::cout << "seed " << seed << ": " << finding << '\n';
