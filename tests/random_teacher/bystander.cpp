@@ -15,12 +15,12 @@ namespace {
 namespace fs = std::filesystem;
 
 template <class Kind>
-Kind& Part(const Form& form, const char* name) {
+Kind& The(const Form& form, const char* name) {
   return dynamic_cast<Kind&>(*form.FindControl(name));
 }
 
 const std::string& TextIn(const Form& form, const char* box) {
-  return Part<TextBox>(form, box).Text;
+  return The<TextBox>(form, box).Text;
 }
 
 std::optional<std::string> BytesOf(const fs::path& path) {
@@ -92,7 +92,7 @@ void Bystander::Answered(std::string_view title, BoxAnswer answer) {
   }
   if (answer != BoxAnswer::Yes) return;
   if (const Form* maker = InFront("MakeNewList"); maker != nullptr && made_) {
-    if (title == "Confirm Delete") RemovePair(Part<ListBox>(*maker, "WordList1").ListIndex);
+    if (title == "Confirm Delete") RemovePair(The<ListBox>(*maker, "WordList1").ListIndex);
     if (title == "Confirm Save" || title == "Save?") SaveMade();
   }
   if (InFront("EditList") != nullptr && edited_) {
@@ -147,31 +147,31 @@ void Bystander::Watch(Form& form) {
 void Bystander::WatchChoices(Form& form) {
   if (form.Name() == "Title") {
     link_in_use_ = link_;
-    Before(Part<Control>(form, "Command2").Click, [] {});
+    Before(The<Control>(form, "Command2").Click, [] {});
   }
   // What it writes of the list file's folder is what it read when it came up.
   if (form.Name() == "QuickWordOption") {
     link_of_option_ = link_;
-    Before(Part<Control>(form, "Command1").Click, [] {});
+    Before(The<Control>(form, "Command1").Click, [] {});
   }
   if (form.Name() == "CreateList") {
     const auto named = [this, &form] { BeginList(TextIn(form, "NewName")); };
-    Before(Part<TextBox>(form, "NewName").Enter, named);
-    Before(Part<Control>(form, "Command2").Click, named);
+    Before(The<TextBox>(form, "NewName").Enter, named);
+    Before(The<Control>(form, "Command2").Click, named);
   }
   if (form.Name() == "EditChooseList") {
-    auto& lists = Part<ListBox>(form, "TheLists");
+    auto& lists = The<ListBox>(form, "TheLists");
     const auto chosen = [this, &lists] {
       if (lists.ListIndex >= 0) BeginEdit(lists.Text());
     };
     Before(lists.DblClick, chosen);
-    Before(Part<Control>(form, "Command1").Click, chosen);
+    Before(The<Control>(form, "Command1").Click, chosen);
   }
   if (form.Name() == "DeleteList") {
     // What the file held when the screen came up is all that it knows.
     const auto known = std::make_shared<ListFileModel>(*ListFile());
-    Before(Part<Control>(form, "Yes").Click, [this, &form, known] {
-      if (!known->Delete(Part<ListBox>(form, "TheLists").Text())) return;
+    Before(The<Control>(form, "Yes").Click, [this, &form, known] {
+      if (!known->Delete(The<ListBox>(form, "TheLists").Text())) return;
       *ListFile() = *known;
       ++noted_["lists deleted"];
     });
@@ -180,13 +180,13 @@ void Bystander::WatchChoices(Form& form) {
 
 void Bystander::WatchMaker(Form& form) {
   if (form.Name() != "MakeNewList") return;
-  auto& words = Part<ListBox>(form, "WordList1");
+  auto& words = The<ListBox>(form, "WordList1");
   const auto add = [this, &form] { AddPair(form); };
   const auto take_back = [this, &words] { TakeBackPair(words.ListIndex); };
-  Before(Part<TextBox>(form, "TheWord").Enter, add);
-  Before(Part<TextBox>(form, "TheMeaning").Enter, add);
+  Before(The<TextBox>(form, "TheWord").Enter, add);
+  Before(The<TextBox>(form, "TheMeaning").Enter, add);
   Before(words.DblClick, take_back);
-  Before(Part<Toolbar>(form, "Toolbar1").ButtonClick, [=](ToolbarButton& button) {
+  Before(The<Toolbar>(form, "Toolbar1").ButtonClick, [=](ToolbarButton& button) {
     const std::string& caption = button.Caption;
     if (caption == "Add Word" || caption == "Save and Quit" || caption == "Quit") add();
     if (caption == "Edit Word") take_back();
@@ -195,11 +195,11 @@ void Bystander::WatchMaker(Form& form) {
 
 void Bystander::WatchEditor(Form& form) {
   if (form.Name() != "EditList") return;
-  auto& words = Part<ListBox>(form, "WordList");
+  auto& words = The<ListBox>(form, "WordList");
   const auto select = [this, &words] { selected_row_ = words.ListIndex; };
   Before(words.Click, select);
   Before(words.KeyUp, select);
-  Before(Part<Toolbar>(form, "Toolbar1").ButtonClick, [this](ToolbarButton& button) {
+  Before(The<Toolbar>(form, "Toolbar1").ButtonClick, [this](ToolbarButton& button) {
     TakeUpChanges();
     if (button.Caption() == "Rename List" && edited_) edited_->name = edited_->caption;
   });
@@ -216,19 +216,19 @@ void Bystander::WatchBoxes(Form& form) {
         ++noted_["words added"];
       }
     };
-    Before(Part<TextBox>(form, "Text1").Enter, add);
-    Before(Part<TextBox>(form, "Text2").Enter, add);
-    Before(Part<Control>(form, "Command1").Click, add);
+    Before(The<TextBox>(form, "Text1").Enter, add);
+    Before(The<TextBox>(form, "Text2").Enter, add);
+    Before(The<Control>(form, "Command1").Click, add);
   }
   if (form.Name() == "EditWord") {
     // The two lists may have different rows selected.
     const auto pair_at = [this](const char* list) {
-      const auto row = std::size_t(Part<ListBox>(*Loaded("EditList"), list).ListIndex());
+      const auto row = std::size_t(The<ListBox>(*Loaded("EditList"), list).ListIndex());
       const bool there = edited_ && row < edited_->pairs.size();
       return there ? edited_->pairs[row] : std::pair<std::string, std::string>();
     };
     CheckBoxes(form, {pair_at("WordList").first, pair_at("DefList").second});
-    Before(Part<Control>(form, "Command1").Click, [this, &form] {
+    Before(The<Control>(form, "Command1").Click, [this, &form] {
       if (!edited_) return;
       edited_->coming.push_back(
           {selected_row_, TextIn(form, "TheWord"), TextIn(form, "TheMeaning")});
@@ -236,10 +236,10 @@ void Bystander::WatchBoxes(Form& form) {
     });
   }
   if (form.Name() == "ChangeListName") {
-    Before(Part<Control>(form, "Command1").Click,
+    Before(The<Control>(form, "Command1").Click,
            [this, &form] { Rename(TextIn(form, "TheName")); });
     // With the Enter key the caption stays.
-    Before(Part<TextBox>(form, "TheName").Enter, [this, &form] {
+    Before(The<TextBox>(form, "TheName").Enter, [this, &form] {
       if (edited_) edited_->name = TextIn(form, "TheName");
     });
   }
