@@ -120,6 +120,12 @@ std::optional<Screen> ScreenNamed(std::string_view name) {
   return std::nullopt;
 }
 
+std::vector<std::string_view> ScreenNames() {
+  std::vector<std::string_view> names;
+  for (const ScreenEntry& screen : kScreens) names.push_back(screen.name);
+  return names;
+}
+
 BrindlepageProgram::BrindlepageProgram(Platform& platform, RandomSource& random)
     : Program(platform, random, [this](Screen id) { return MakeForm(id, *this); }) {}
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "core/program.h"
 
@@ -13,6 +14,9 @@ std::unique_ptr<Form> MakeForm(Screen id, Program& program);
 
 // The id of a form's name, or nothing if the program has no such form.
 std::optional<Screen> ScreenNamed(std::string_view name);
+
+// The names of all forms.
+std::vector<std::string_view> ScreenNames();
 
 // The whole program on a window system: Start() loads and shows the menu.
 class BrindlepageProgram : public Program {

@@ -12,15 +12,19 @@ class AnsweringPlatform : public Platform {
   enum class Box { Message, YesNo, YesNoCancel, Input, Print, PrintWhole, Open };
   // Gives the answer as a script writes it, or "" for none.
   using Answers = std::function<std::string(Box)>;
+  // Is told what a message was answered with.
+  using Listener = std::function<void(std::string_view title, BoxAnswer answer)>;
 
-  AnsweringPlatform(walk::WalkPlatform& platform, Answers answers)
-      : platform_(platform), answers_(std::move(answers)) {}
+  AnsweringPlatform(walk::WalkPlatform& platform, Answers answers, Listener listener)
+      : platform_(platform), answers_(std::move(answers)), listener_(std::move(listener)) {}
 
   BoxAnswer MessageBox(std::string_view text, std::string_view title, BoxButtons buttons) override {
     Answer(buttons == BoxButtons::Ok      ? Box::Message
            : buttons == BoxButtons::YesNo ? Box::YesNo
                                           : Box::YesNoCancel);
-    return platform_.MessageBox(text, title, buttons);
+    const BoxAnswer answer = platform_.MessageBox(text, title, buttons);
+    listener_(title, answer);
+    return answer;
   }
   std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                       std::string_view text) override {
@@ -64,6 +68,7 @@ class AnsweringPlatform : public Platform {
 
   walk::WalkPlatform& platform_;
   Answers answers_;
+  Listener listener_;
 };
 
 }  // namespace brindlepage

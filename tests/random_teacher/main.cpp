@@ -3,16 +3,19 @@
 //
 //     random_teacher PROGRAM_FOLDER [--seconds N] [--seed N] [--rounds N]
 //
-// Each round acts in a fresh copy of the folder, and starts the program again when it has ended.
-// At a finding the round's lines go into random_teacher.walk, which brindlepage-walk plays again
-// with --draw-limit 2000000 in a fresh copy, and the status is 1.
+// Each round acts in a fresh copy of the folder, with a seed of its own, the first with that of the
+// option, and starts the program again when it has ended. To use more than one processor, run it
+// more than once, with seeds a million apart, each in a folder of its own: there a finding's deeds
+// are left, in random_teacher.walk. Should the program crash, random_teacher.seed tells the seed.
+// The status is 1 if it found an end that nobody has stated, a list file that is not as a simple
+// model of it says, or, given time enough, a form that never comes up.
 
-#include <charconv>
 #include <chrono>
-#include <cstring>
 #include <fstream>
 #include <iostream>
 
+#include "tests/random_teacher/fresh_folder.h"
+#include "tests/random_teacher/options.h"
 #include "tests/random_teacher/round.h"
 #include "tests/random_teacher/stated_ends.h"
 #include "tests/temp_folder.h"
@@ -24,82 +27,61 @@ using namespace brindlepage;
 
 constexpr int kLinesOfARound = 1500;
 
-struct Options {
-  fs::path program_folder;
-  long seconds = 60;
-  long seed = 1;
-  long rounds = 1'000'000'000;
-};
-
-bool Read(int count, char** words, Options& options) {
-  if (count < 2 || count % 2 != 0) return false;
-  options.program_folder = fs::absolute(words[1]);
-  for (int i = 2; i < count; i += 2) {
-    const std::string_view name = words[i];
-    long* option = name == "--seconds"  ? &options.seconds
-                   : name == "--seed"   ? &options.seed
-                   : name == "--rounds" ? &options.rounds
-                                        : nullptr;
-    if (option == nullptr) return false;
-    const char* end = words[i + 1] + std::strlen(words[i + 1]);
-    if (std::from_chars(words[i + 1], end, *option).ptr != end) return false;
-  }
-  return true;
-}
-
-void Keep(const Round& round) {
-  std::ofstream file("random_teacher.walk");
-  for (const std::string& line : round.script()) file << line << '\n';
-}
-
 // What is wrong with this round, or nothing.
-std::string PlayInFreshFolder(const fs::path& program_folder, Round& round, Ends& ends) {
+std::string PlayInFreshFolder(const fs::path& program_folder, long seed, Round& round,
+                              Tally& tally) {
   TempFolder folder;
-  fs::copy(program_folder, folder.Path(), fs::copy_options::recursive);
-  fs::create_directory(folder.Path() / "class");
-  Ends met;
+  FillFreshFolder(program_folder, folder.Path(), seed);
+  Tally met;
   try {
     round.Play(met);
   } catch (const std::exception& fault) {
     return fault.what();
   }
-  std::string unstated;
-  for (const auto& [end, count] : met) {
-    ends[end] += count;
-    if (!IsStatedEnd(end)) unstated = end;
-  }
-  for (const char* name : {"Riddles.dat", "titleback.jpg", "brindlepagebackground.jpg"}) {
-    std::ifstream before(program_folder / name, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(before), {});
-    if (folder.Read(name) != bytes) unstated = std::string(name) + " was written to";
-  }
-  return unstated;
+  tally.Add(met);
+  const std::string end = FirstUnstatedEnd(met);
+  return end.empty() ? SpoiltFile(program_folder, folder.Path()) : end;
+}
+
+void TellFinding(long seed, const Round& round, const std::string& finding) {
+  std::ofstream file("random_teacher.walk");
+  for (const std::string& line : round.script()) file << line << '\n';
+  std::cout << "seed " << seed << ": " << finding << "\n";
+  PrintLast(std::cout, round.script());
+  std::cout << "All are in random_teacher.walk; --seed " << seed
+            << " --rounds 1 does them again.\n";
+}
+
+// Whether every form came up, where there was time enough for that.
+bool SawEverything(const Tally& tally) {
+  constexpr long kTimeEnough = 60'000;  // deeds
+  const auto missed = tally.Missed();
+  if (missed.empty() || tally.deeds < kTimeEnough) return true;
+  std::cout << "Never came up:";
+  for (const std::string& form : missed) std::cout << ' ' << form;
+  std::cout << '\n';
+  return false;
 }
 
 }  // namespace
 
 int main(int count, char** words) {
   Options options;
-  if (!Read(count, words, options)) {
-    std::cerr << "usage: random_teacher PROGRAM_FOLDER [--seconds N] [--seed N] [--rounds N]\n";
-    return 2;
-  }
+  if (!ReadOptions(count, words, options)) return 2;
   using Clock = std::chrono::steady_clock;
   const auto until = Clock::now() + std::chrono::seconds(options.seconds);
-  Ends ends;
-  long deeds = 0;
+  Tally tally;
   long rounds = 0;
-  while (rounds < options.rounds && Clock::now() < until) {
-    Round round(static_cast<std::uint64_t>(options.seed + rounds), kLinesOfARound);
-    const std::string finding = PlayInFreshFolder(options.program_folder, round, ends);
-    deeds += static_cast<long>(round.script().size());
-    ++rounds;
+  for (; rounds < options.rounds && Clock::now() < until; ++rounds) {
+    const long seed = options.seed + rounds;
+    std::ofstream("random_teacher.seed") << seed << '\n';
+    Round round(static_cast<std::uint64_t>(seed), kLinesOfARound);
+    const std::string finding = PlayInFreshFolder(options.program_folder, seed, round, tally);
     if (finding.empty()) continue;
-    Keep(round);
-    std::cout << "seed " << options.seed + rounds - 1 << ": " << finding
-              << "\nIts lines are in random_teacher.walk.\n";
+    TellFinding(seed, round, finding);
     return 1;
   }
-  for (const auto& [end, met] : ends) std::cout << met << "  " << end << '\n';
-  std::cout << deeds << " deeds in " << rounds << " rounds\n";
+  tally.Print(std::cout);
+  std::cout << rounds << " rounds\n";
+  return SawEverything(tally) ? 0 : 1;
 }

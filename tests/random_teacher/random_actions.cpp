@@ -1,5 +1,6 @@
 #include "tests/random_teacher/random_actions.h"
 
+#include "tests/random_teacher/inclinations.h"
 #include "toolkit/code_page.h"
 #include "toolkit/controls.h"
 #include "toolkit/file_lists.h"
@@ -25,49 +26,7 @@ const Kind* As(const Control& control) {
   return dynamic_cast<const Kind*>(&control);
 }
 
-bool Quits(const Control& control) {
-  return walk::Printed(control.Find("Caption").value_or(Value(""))).find("Quit") !=
-         std::string::npos;
-}
-
 }  // namespace
-
-int RandomActions::Below(int limit) {
-  return static_cast<int>(random_() % static_cast<std::uint64_t>(limit));
-}
-
-std::string RandomActions::Text() {
-  static const std::vector<std::string> kTexts = {"lava",
-                                                  "ash",
-                                                  "a",
-                                                  "",
-                                                  " ",
-                                                  "Mount Etna",
-                                                  "caf\u00e9",
-                                                  "\u03a9",
-                                                  "*****",
-                                                  "*",
-                                                  "12",
-                                                  "x-ray",
-                                                  "hot rock",
-                                                  "a\"b",
-                                                  "c:\\d",
-                                                  "what?",
-                                                  "<New List>",
-                                                  "No Lists",
-                                                  "antidisestablishment",
-                                                  "Volcanoes",
-                                                  "Planets",
-                                                  "tab\there"};
-  if (OneIn(3)) {
-    std::string word;
-    for (int length = 1 + Below(20); length > 0; --length) {
-      word += static_cast<char>('a' + Below(26));
-    }
-    return word;
-  }
-  return AnyOf(kTexts);
-}
 
 std::string RandomActions::Next(Program& program) {
   if (OneIn(8)) return "tick " + std::to_string(1 + Below(OneIn(10) ? 60'000 : 50));
@@ -80,13 +39,21 @@ std::string RandomActions::Next(Program& program) {
   const Form& form = active != nullptr && !OneIn(6) ? *active : *AnyOf(shown);
   if (OneIn(30) || form.Controls().empty()) return OnForm(form);
 
-  std::vector<const Control*> reachable;
+  const Control* control = Reach(form);
+  return control == nullptr ? OnForm(form) : OnControl(*control);
+}
+
+// Something on the form, or null. Now and then it is out of reach.
+const Control* RandomActions::Reach(const Form& form) {
+  std::vector<const Control*> controls;
+  std::vector<int> weights;
   for (const Control* control : form.Controls()) {
-    // A teacher who is always leaving sees little.
-    if (Quits(*control) && !OneIn(20)) continue;
-    if (control->CanAct() || OneIn(20)) reachable.push_back(control);
+    const int weight = control->CanAct() || OneIn(20) ? Inclination(*control) : 0;
+    if (weight == 0) continue;
+    controls.push_back(control);
+    weights.push_back(weight);
   }
-  return reachable.empty() ? OnForm(form) : OnControl(*AnyOf(reachable));
+  return controls.empty() ? nullptr : AnyOf(controls, weights);
 }
 
 std::string RandomActions::OnForm(const Form& form) {
@@ -110,17 +77,11 @@ std::string RandomActions::OnForm(const Form& form) {
 
 std::string RandomActions::OnControl(const Control& control) {
   const std::string name = PrintedName(control);
-  if (const auto* bar = As<Toolbar>(control)) {
-    auto& button = const_cast<Toolbar*>(bar)->Button(1 + Below(bar->ButtonCount()));
-    return "click " + name + " " + QuotedBytes(button.Caption());
-  }
+  if (const auto* bar = As<Toolbar>(control)) return OnToolbar(*bar);
   // To other drives, or up out of the program's folder, the teacher doesn't go.
   if (As<DriveListBox>(control)) return "click " + name;
   if (As<DirListBox>(control)) return "folder " + name + " " + Quoted(AnyOf(kFolders));
-  if (As<TextBox>(control)) {
-    if (OneIn(3)) return "press " + name + " " + AnyOf(kKeys);
-    return "type " + name + " " + Quoted(Text());
-  }
+  if (const auto* box = As<TextBox>(control)) return OnTextBox(name, *box);
   if (const auto* combo = As<ComboBox>(control)) {
     if (OneIn(4)) return "select " + name + " " + Quoted(Text());
     return "select " + name + " " + std::to_string(Below(std::max(combo->ListCount(), 1)));
@@ -135,14 +96,36 @@ std::string RandomActions::OnControl(const Control& control) {
   return "click " + name;
 }
 
+std::string RandomActions::OnToolbar(const Toolbar& bar) {
+  std::vector<std::string> captions;
+  std::vector<int> weights;
+  for (int number = 1; number <= bar.ButtonCount(); ++number) {
+    captions.push_back(const_cast<Toolbar&>(bar).Button(number).Caption);
+    weights.push_back(Inclination(captions.back()));
+  }
+  return "click " + PrintedName(bar) + " " + QuotedBytes(AnyOf(captions, weights));
+}
+
+std::string RandomActions::OnTextBox(const std::string& name, const TextBox& box) {
+  const bool confirms = box.Enter && !box.Text().empty();
+  if (confirms && OneIn(5)) return "press " + name + " Enter";
+  if (OneIn(4)) return "press " + name + " " + AnyOf(kKeys);
+  const std::string& form = box.form().Name();
+  if (form == "ChangeList") return "type " + name + " " + Quoted(Link());
+  if (form == "ChangeListName" && OneIn(2)) return "type " + name + " " + Quoted(ListName());
+  return "type " + name + " " + Quoted(Text());
+}
+
 std::string RandomActions::OnList(const std::string& name, const ListBox& list) {
   if (list.ListCount() == 0 || OneIn(8)) return "press " + name + " " + AnyOf(kKeys);
-  const std::string row = std::to_string(Below(list.ListCount()));
+  // Now and then the empty part below the rows.
+  const std::string row = OneIn(12) ? "-1" : std::to_string(Below(list.ListCount()));
   if (OneIn(6)) return "double " + name + " " + row;
   if (list.style() != ListStyle::CheckBoxes) return "select " + name + " " + row;
-  std::string line = "mark " + name + " " + row;
-  for (int more = Below(12); more > 0; --more)
+  std::string line = "mark " + name;
+  for (int more = 1 + Below(12); more > 0; --more) {
     line += " " + std::to_string(Below(list.ListCount()));
+  }
   return line;
 }
 

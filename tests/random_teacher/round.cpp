@@ -23,8 +23,9 @@ int Round::Listener::overflow(int byte) {
   return traits_type::not_eof(byte);
 }
 
-void Round::Play(Ends& ends) {
-  ends_ = &ends;
+void Round::Play(Tally& tally) {
+  tally_ = &tally;
+  bystander_.emplace(std::filesystem::current_path());
   Listener listener([this](const std::string& line) { Hear(line); });
   std::ostream out(&listener);
   std::ostringstream errors;
@@ -36,11 +37,17 @@ void Round::Play(Ends& ends) {
   };
   walk::Walk walk({start, ScreenNamed}, settings, out, errors);
   if (walk.Play(script) == walk::kScriptWrong) throw std::runtime_error(errors.str());
+  CheckLists();
+  tally.lists = bystander_->Noted();
+  if (!wrong_.empty()) throw std::runtime_error(wrong_);
 }
 
 std::unique_ptr<Program> Round::StartOn(walk::WalkPlatform& platform, RandomSource& random) {
   platform_ = std::make_unique<AnsweringPlatform>(
-      platform, [this](AnsweringPlatform::Box box) { return AnswerTo(box); });
+      platform, [this](AnsweringPlatform::Box box) { return AnswerTo(box); },
+      [this](std::string_view title, BoxAnswer answer) { bystander_->Answered(title, answer); });
+  bystander_->ProgramStarts();
+  visits_.ProgramStarts();
   auto program = std::make_unique<BrindlepageProgram>(*platform_, random);
   program_ = program.get();
   running_ = true;
@@ -85,7 +92,15 @@ void Round::NoteEnd(const std::string& end) {
       blank == std::string::npos ? deed : deed.substr(blank + 1, name_end - blank - 1);
   // A teacher who has lost the list file stands before the menu for ever.
   if (end.starts_with("error 53")) lines_left_ = std::min(lines_left_, 100);
-  ++(*ends_)[(deed.starts_with("tick") ? "tick" : form) + ": " + end];
+  ++tally_->ends[(deed.starts_with("tick") ? "tick" : form) + ": " + end];
+  CheckLists();
+}
+
+// The round ends with the first fault; what follows from it says nothing.
+void Round::CheckLists() {
+  if (!wrong_.empty()) return;
+  wrong_ = bystander_->Compare();
+  if (!wrong_.empty()) lines_left_ = 0;
 }
 
 int Round::underflow() {
@@ -99,6 +114,13 @@ int Round::underflow() {
 std::string Round::NextLine() {
   if (script_.size() == 1 && given_.empty()) return script_.front();
   if (lines_left_-- <= 0) return "";
+  if (running_) {
+    bystander_->Look(*program_);
+    CheckLists();
+    if (lines_left_ <= 0) return "";
+    visits_.Look(program_->forms(), *tally_);
+  }
+  ++tally_->deeds;
   script_.push_back(running_ ? actions_.Next(*program_) : "start");
   return script_.back();
 }

@@ -1,19 +1,17 @@
 #pragma once
 
-#include <map>
 #include <memory>
+#include <optional>
 #include <streambuf>
 #include <string>
 #include <vector>
 
 #include "tests/random_teacher/answering_platform.h"
+#include "tests/random_teacher/bystander.h"
 #include "tests/random_teacher/random_actions.h"
+#include "tests/random_teacher/tally.h"
 
 namespace brindlepage {
-
-// Ends of the program, as `QuizForm: error 6 "Overflow"`, and how often each was met. The form is
-// that on which the teacher acted last.
-using Ends = std::map<std::string, long>;
 
 // A teacher without a plan at a walk: makes the script up while it is read.
 class Round : private std::streambuf {
@@ -22,8 +20,9 @@ class Round : private std::streambuf {
   Round(std::uint64_t seed, int lines);
 
   // Plays it in the working directory, which is a program folder. What makes no sense to a walk
-  // throws std::runtime_error.
-  void Play(Ends& ends);
+  // throws std::runtime_error, and so does a list file that is not as the deeds should have left
+  // it.
+  void Play(Tally& tally);
 
   // What was played, for brindlepage-walk to play again.
   const std::vector<std::string>& script() const { return script_; }
@@ -40,6 +39,7 @@ class Round : private std::streambuf {
     std::string line_;
   };
 
+  void CheckLists();
   std::unique_ptr<Program> StartOn(walk::WalkPlatform& platform, RandomSource& random);
   std::string AnswerTo(AnsweringPlatform::Box box);
   void Hear(const std::string& line);
@@ -55,7 +55,10 @@ class Round : private std::streambuf {
   bool running_ = false;
   Program* program_ = nullptr;
   std::unique_ptr<AnsweringPlatform> platform_;
-  Ends* ends_ = nullptr;
+  Tally* tally_ = nullptr;
+  VisitCounter visits_;
+  std::optional<Bystander> bystander_;
+  std::string wrong_;  // with the lists
 };
 
 }  // namespace brindlepage

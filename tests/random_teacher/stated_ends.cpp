@@ -18,9 +18,9 @@ struct StatedEnd {
 constexpr StatedEnd kStatedEnds[] = {
     // A list renamed before it was saved is looked for past the end of the file.
     {"error 6 \"Overflow\"", " EditList DeleteList AddWord EditWord ChangeListName MakeNewList "},
-    // Rows of a first list that are one off.
+    // Rows of a first list that are one off, and deeds on a row where none is selected.
     {"error 5 \"Invalid procedure call or argument\"",
-     " EditList EditChooseList AddWord EditWord ChangeListName "},
+     " EditList EditChooseList AddWord EditWord ChangeListName MakeNewList "},
     // Bounds: a word of 26 letters, a twenty-first riddle, 151 words of a riddle sheet.
     {"error 9 \"Subscript out of range\"",
      " tick PickWords QuizOptions QuizOptions5 ChooseRiddle RiddleOption1 JustForFun "},
@@ -41,8 +41,9 @@ constexpr StatedEnd kStatedEnds[] = {
     {"error 76 \"Path not found\"", " AddPic "},
     // Handlers that address what is no control.
     {"error 424 \"Object required\"", " ChangeList DeleteList EditChooseList MakeNewList "},
-    // Draws that can never succeed.
-    {"not responding", " tick PickWords QuizOptions QuizOptions5 PuzzleSize RiddleOption1 "},
+    // Draws that can never succeed; AddPic makes a worksheet anew that was closed behind it, when
+    // its words have been used up.
+    {"not responding", " tick PickWords QuizOptions QuizOptions5 PuzzleSize RiddleOption1 AddPic "},
 };
 
 }  // namespace
@@ -55,6 +56,13 @@ bool IsStatedEnd(std::string_view end) {
   return std::any_of(std::begin(kStatedEnds), std::end(kStatedEnds), [&](const StatedEnd& stated) {
     return stated.end == what && stated.forms.find(form) != std::string_view::npos;
   });
+}
+
+std::string FirstUnstatedEnd(const Tally& tally) {
+  for (const auto& [end, count] : tally.ends) {
+    if (!IsStatedEnd(end)) return end;
+  }
+  return "";
 }
 
 }  // namespace brindlepage
