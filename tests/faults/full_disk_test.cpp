@@ -1,9 +1,10 @@
 // The disk is full after any number of bytes: the told message, and on the disk what fitted.
 
+#include "tests/faults/full_disk.h"
+
 #include <gtest/gtest.h>
 
 #include "tests/faults/steps.h"
-#include "tests/faults/troubles.h"
 
 namespace brindlepage {
 namespace {

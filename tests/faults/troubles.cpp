@@ -1,10 +1,5 @@
 #include "tests/faults/troubles.h"
 
-#include <sys/resource.h>
-
-#include <csignal>
-#include <stdexcept>
-
 namespace brindlepage {
 
 namespace {
@@ -54,16 +49,6 @@ void LinkToFullDevice(const TempFolder&, const fs::path& file) { Link("/dev/full
 // The first page of a process is never there, and reading it fails.
 void LinkToBrokenDevice(const TempFolder&, const fs::path& file) { Link("/proc/self/mem", file); }
 
-// What it was before.
-rlim_t SetFileLimit(rlim_t most) {
-  rlimit limit{};
-  getrlimit(RLIMIT_FSIZE, &limit);
-  const rlim_t before = limit.rlim_cur;
-  limit.rlim_cur = most;
-  if (setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("can't limit files");
-  return before;
-}
-
 }  // namespace
 
 std::vector<Trouble> ReadingTroubles() {
@@ -107,12 +92,5 @@ void LetEveryoneIn(const TempFolder& folder) {
     fs::permissions(entry.path(), entry.is_directory() ? fs::perms::all : fs::perms{0666});
   }
 }
-
-FullDisk::FullDisk(std::size_t most) {
-  std::signal(SIGXFSZ, SIG_IGN);  // or a write beyond it would end the process
-  before_ = SetFileLimit(most);
-}
-
-FullDisk::~FullDisk() { SetFileLimit(before_); }
 
 }  // namespace brindlepage

@@ -30,16 +30,4 @@ std::vector<Trouble> FolderTroubles();
 // nothing but what a trouble closes.
 void LetEveryoneIn(const TempFolder& folder);
 
-// A disk on which no file may grow beyond that many bytes, while it lives.
-class FullDisk {
- public:
-  explicit FullDisk(std::size_t most);
-  ~FullDisk();
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  unsigned long long before_;
-};
-
 }  // namespace brindlepage
