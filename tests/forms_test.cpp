@@ -258,6 +258,28 @@ TEST_F(FormsTest, ARunTimeErrorIsShownAndEndsTheProgramWithStatus1) {
   EXPECT_EQ(program.Status(), 1);
 }
 
+TEST_F(FormsTest, AFormWhoseLoadFailsIsNotThereAndCanBeLoadedAnew) {
+  Show(kFirst);
+  Page::on_load = [](Page& page) {
+    page.Timer1.Enabled = true;
+    throw RunTimeError(Fault::FileNotFound);
+  };
+  program.Dispatch([&] {
+    try {
+      program.forms().Show(kSecond);
+      ADD_FAILURE() << "the fault did not come through";
+    } catch (const RunTimeError&) {
+    }
+    EXPECT_EQ(program.forms().Find(kSecond), nullptr);
+    EXPECT_EQ(program.forms().Active(), &At(kFirst));
+  });
+  EXPECT_FALSE(program.timers().NextDue());
+  Page::on_load = nullptr;
+  TakeLog();
+  Show(kSecond);
+  EXPECT_EQ(log, (Log{"Page3 load", "Page0 deactivate", "Page3 activate"}));
+}
+
 TEST_F(FormsTest, AfterItsEndTheProgramRunsNoHandler) {
   Show(kFirst);
   program.Dispatch([&] { program.End(); });

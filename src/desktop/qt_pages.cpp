@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <cmath>
 
+#include "desktop/finish_print.h"
 #include "desktop/rich_text_layout.h"
 #include "desktop/text.h"
 #include "toolkit/run_time_error.h"
@@ -79,8 +80,6 @@ void QtPages::NewPage() {
   if (!printer_.newPage()) throw RunTimeError(Fault::DeviceIo);
 }
 
-void QtPages::EndDoc() {
-  if (!painter_.end()) throw RunTimeError(Fault::DeviceIo);
-}
+void QtPages::EndDoc() { FinishPrint(painter_, printer_); }
 
 }  // namespace brindlepage

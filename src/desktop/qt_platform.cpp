@@ -52,6 +52,14 @@ QString NativeName(std::string_view name) {
   return QString::fromStdU32String(files::NativePath(name).u32string());
 }
 
+// As the program names it, who keeps names in lines of the code page. What it could not find again
+// by that name is refused.
+std::string FileName(const QString& file) {
+  const bool can_be_kept = InCodePage(file) && !file.contains('\n') && !file.contains('\r');
+  if (!can_be_kept) throw RunTimeError(Fault::BadFileName);
+  return FromQString(file);
+}
+
 // What a program is told: a file by its name on this machine, anything else as it stands.
 QString NativeArgument(const std::string& argument) {
   try {
@@ -162,7 +170,7 @@ std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::s
     if (!folder.empty()) dialog.setDirectory(NativeName(folder));
   }
   if (!Run(dialog) || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FromQString(dialog.selectedFiles().front());
+  return FileName(dialog.selectedFiles().front());
 }
 
 void QtPlatform::StartProgram(std::string_view command_line) {

@@ -5,6 +5,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "desktop/finish_print.h"
 #include "desktop/rich_text_layout.h"
 #include "desktop/rich_text_view.h"
 #include "toolkit/run_time_error.h"
@@ -144,7 +145,7 @@ void PrintRichText(const RichTextBox& box, int start, int length, QPrinter& prin
     Draw(lines, page, painter);
     painter.restore();
   }
-  if (!painter.end()) throw RunTimeError(Fault::DeviceIo);
+  FinishPrint(painter, printer);
 }
 
 }  // namespace brindlepage

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "toolkit/platform.h"
+#include "toolkit/run_time_error.h"
 #include "toolkit/runtime.h"
 
 namespace brindlepage {
@@ -16,7 +17,13 @@ void Forms::Load(Screen id) {
   loaded_.push_back(factory_(id));
   Form& form = *loaded_.back();
   form.loading_ = true;
-  form.Load();
+  try {
+    form.Load();
+  } catch (const RunTimeError&) {
+    // Where the fault is handled the form isn't there, and can be loaded anew.
+    if (Find(id) == &form) Unload(id);
+    throw;
+  }
   form.loading_ = false;
   if (form.show_after_load_ && Find(id) == &form) Show(id);
 }

@@ -19,6 +19,7 @@ class Forms {
   Forms(Runtime& runtime, Factory factory);
   ~Forms();
 
+  // A form whose load throws is unloaded again.
   void Load(Screen id);
   // Loads the form if need be, makes it visible and active. A form that unloaded itself in its
   // load is not shown; one that shows itself there comes up when the load is done.
