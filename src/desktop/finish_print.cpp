@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QPrinter>
+#include <algorithm>
 
 #include "toolkit/run_time_error.h"
 
