@@ -92,11 +92,12 @@ bool HasRichText(const Arrangement& page) {
 
 }  // namespace
 
-FormView::FormView(Form& form, Loop& loop, QWidget* parent)
+FormView::FormView(Form& form, Loop& loop, QWidget* parent, QSize size)
     : QWidget(parent), form_(&form), loop_(loop) {
   setObjectName(ToQString(form.Name()));
   setFocusPolicy(Qt::NoFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  resize(size);
   // First, so that its picture is decoded while everything else is made.
   FindBackdrop();
   SyncForm();
@@ -267,6 +268,8 @@ void FormView::SetTabOrder() {
 }
 
 PicturePtr FormView::Background() const {
+  // A document leaves nothing of it to be seen.
+  if (HasRichText(form_->arrangement())) return nullptr;
   if (const auto* image = dynamic_cast<const Image*>(backdrop_)) return image->Picture;
   return form_->Picture;
 }
@@ -279,7 +282,7 @@ void FormView::SyncForm() {
   if (background == background_) return;
   background_ = background;
   if (form_->kind() == FormKind::Screen) {
-    PrepareCovering(background, window()->size(), devicePixelRatioF());
+    PrepareCovering(background, size(), devicePixelRatioF());
   }
   update();
 }

@@ -25,7 +25,8 @@ namespace brindlepage {
 // that places its controls itself fills the page with a GridView.
 class FormView : public QWidget {
  public:
-  FormView(Form& form, Loop& loop, QWidget* parent);
+  // `size`: the size in which it will first be shown.
+  FormView(Form& form, Loop& loop, QWidget* parent, QSize size);
 
   // Null once detached.
   Form* form() const { return form_; }

@@ -174,10 +174,10 @@ QWidget* Windows::Front() const {
   return main_->isVisible() ? main_ : nullptr;
 }
 
-FormView& Windows::ViewFor(Form& form, QWidget& window) {
+FormView& Windows::ViewFor(Form& form, QWidget& window, QSize size) {
   FormView*& view = views_[&form];
   if (view == nullptr) {
-    view = new FormView(form, loop_, &window);
+    view = new FormView(form, loop_, &window, size);
     view->on_resize = [this] { FlushSoon(); };
   }
   return *view;
@@ -188,7 +188,7 @@ FormWindow& Windows::BoxFor(Form& form) {
   if (box == nullptr) {
     box = new FormWindow(*this, main_, true);
     box->setObjectName(ToQString(form.Name()) + "Window");
-    box->ShowPage(ViewFor(form, *box));
+    box->ShowPage(ViewFor(form, *box, box->size()));
   }
   return *box;
 }
@@ -209,7 +209,9 @@ void Windows::ShowTopPage() {
   }
   Form& form = **top;
   Place();
-  FormView& page = ViewFor(form, *main_);
+  const bool goes_back = maximised_by_program_ && form.WindowState == kNormal;
+  const QSize size = goes_back ? main_->normalGeometry().size() : main_->size();
+  FormView& page = ViewFor(form, *main_, size);
   const bool turned = main_->Page() != &page;
   turning_ = true;
   main_->ShowPage(page);

@@ -74,7 +74,7 @@ class Windows : public QObject {
 
   void FollowWindowState(Form& form);
   void Place();
-  FormView& ViewFor(Form& form, QWidget& window);
+  FormView& ViewFor(Form& form, QWidget& window, QSize size);
   FormWindow& BoxFor(Form& form);
   void FocusMoved(QWidget* now);
   void ApplicationLeft();
