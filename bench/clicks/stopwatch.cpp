@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QtTest/QTest>
+#include <algorithm>
+#include <ctime>
 
 Stopwatch::Stopwatch() {
   constexpr int kWake = 5;
@@ -24,20 +26,24 @@ void Stopwatch::Measure(const std::string& name, const std::function<void()>& cl
 void Stopwatch::Begin(const std::string& name) {
   name_ = name;
   running_ = true;
-  began_ = painted_ = Now();
+  NotePainted();
+  began_ = painted_;
+  work_began_ = work_painted_;
+}
+
+void Stopwatch::NotePainted() {
+  painted_ = Now();
+  work_painted_ = 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
 bool Stopwatch::Rests() {
   if (!running_) return true;
   if (paint_coming_ || Now() - painted_ < rest_) return false;
   running_ = false;
-  const double time = painted_ - began_;
-  const auto known = best_.find(name_);
-  if (known == best_.end()) {
-    best_[name_] = time;
-  } else {
-    known->second = std::min(known->second, time);
-  }
+  const Time time{painted_ - began_, work_painted_ - work_began_};
+  Time& best = best_.try_emplace(name_, time).first->second;
+  best.answer = std::min(best.answer, time.answer);
+  best.work = std::min(best.work, time.work);
   return true;
 }
 
@@ -60,7 +66,7 @@ bool Stopwatch::eventFilter(QObject*, QEvent* event) {
     paint_coming_ = true;
     QTimer::singleShot(0, this, [this] {
       paint_coming_ = false;
-      painted_ = Now();
+      NotePainted();
     });
   }
   return false;

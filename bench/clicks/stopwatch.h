@@ -12,8 +12,13 @@
 // what it waits for is the next click, on its first button.
 class Stopwatch : public QObject {
  public:
-  // Milliseconds by the name of the click, the best of all rounds.
-  using Times = std::map<std::string, double>;
+  // Milliseconds, the best of all rounds.
+  struct Time {
+    double answer = 0;  // from the click to the last thing painted
+    double work = 0;    // the processor's part of it, of all threads
+  };
+  // By the name of the click.
+  using Times = std::map<std::string, Time>;
 
   Stopwatch();
 
@@ -30,6 +35,7 @@ class Stopwatch : public QObject {
   // Notes the answer if nothing has been painted for as long as that. Whether it did.
   bool Rests();
   void AnswerBox();
+  void NotePainted();
   double Now() const { return static_cast<double>(clock_.nsecsElapsed()) / 1e6; }
 
   QElapsedTimer clock_;
@@ -37,6 +43,8 @@ class Stopwatch : public QObject {
   std::string name_;
   double began_ = 0;
   double painted_ = 0;
+  double work_began_ = 0;
+  double work_painted_ = 0;
   int rest_ = 0;
   bool paint_coming_ = false;
   bool running_ = false;
