@@ -3,11 +3,13 @@
 #include <QBuffer>
 #include <QImage>
 #include <QPainter>
+#include <QPixmapCache>
 #include <random>
 #include <string>
 
 #include "desktop/decode_picture.h"
 #include "desktop/picture_view.h"
+#include "desktop/style.h"
 #include "tests/bitmaps.h"
 
 namespace brindlepage {
@@ -121,6 +123,98 @@ TEST(DecodePicture, NoDamageToAMetafileDoesHarm) {
       damaged[44 + draws() % (damaged.size() - 44)] = static_cast<char>(draws());
     }
     DecodePicture(damaged);
+  }
+}
+
+// A photograph that was taken with the camera on its side.
+std::string Lying(const std::string& jpeg) {
+  const std::string orientation("Exif\0\0MM\0*\0\0\0\10\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0", 32);
+  return jpeg.substr(0, 2) + "\xFF\xE1" + std::string("\0\x22", 2) + orientation + jpeg.substr(2);
+}
+
+TEST(DecodePicture, APictureIsScaledToCoverARoomWhateverItsKind) {
+  for (const char* format : {"JPG", "PNG"}) {
+    const std::string bytes = Encoded(format, {200, 100});
+    const auto size = [&](QSize room, Qt::AspectRatioMode mode) {
+      const QImage image = DecodePicture(bytes, room, mode);
+      EXPECT_GT(image.pixelColor(image.rect().center()).red(), 240) << format;
+      return image.size();
+    };
+    EXPECT_EQ(size({50, 50}, Qt::KeepAspectRatioByExpanding), QSize(100, 50)) << format;
+    EXPECT_EQ(size({300, 300}, Qt::KeepAspectRatioByExpanding), QSize(600, 300)) << format;
+    EXPECT_EQ(size({50, 50}, Qt::IgnoreAspectRatio), QSize(50, 50)) << format;
+  }
+  EXPECT_TRUE(DecodePicture("no picture", {50, 50}, Qt::IgnoreAspectRatio).isNull());
+  EXPECT_TRUE(
+      DecodePicture(Encoded("JPG").substr(0, 60), {50, 50}, Qt::IgnoreAspectRatio).isNull());
+}
+
+TEST(DecodePicture, APhotographTakenOnItsSideStandsUprightInAnySize) {
+  const std::string bytes = Lying(Encoded("JPG", {200, 100}));
+  EXPECT_EQ(DecodePicture(bytes).size(), QSize(100, 200));
+  EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::KeepAspectRatioByExpanding).size(), QSize(50, 100));
+}
+
+// Red on the left, blue on the right; `mark` makes it another file.
+PicturePtr TwoHalves(const char* format, int mark) {
+  QImage image(800, 200, QImage::Format_RGB32);
+  image.fill(Qt::blue);
+  QPainter(&image).fillRect(0, 0, 400, 200, Qt::red);
+  image.setPixelColor(0, 0, QColor(mark, 0, 0));
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  EXPECT_TRUE(image.save(&buffer, format, 100));
+  const std::string contents = bytes.toStdString();
+  return std::make_shared<Picture>(Picture{"a", PictureFormat(contents), contents});
+}
+
+QImage Covered(const PicturePtr& picture, QSize page) {
+  QImage image(page, QImage::Format_RGB32);
+  image.fill(Qt::black);
+  QPainter painter(&image);
+  DrawCovering(painter, picture, page);
+  return image;
+}
+
+TEST(DrawCovering, APageShowsItsPicturesRightAndLowerEdges) {
+  for (const char* format : {"JPG", "PNG"}) {
+    const QImage page = Covered(TwoHalves(format, 1), {50, 100});
+    for (const QPoint at : {QPoint(1, 1), QPoint(48, 98)}) {
+      EXPECT_GT(page.pixelColor(at).blue(), 240) << format;
+      EXPECT_LT(page.pixelColor(at).red(), 15) << format;
+    }
+    const QImage wide = Covered(TwoHalves(format, 1), {800, 100});
+    EXPECT_GT(wide.pixelColor(300, 50).red(), 240) << format;
+    EXPECT_GT(wide.pixelColor(500, 50).blue(), 240) << format;
+  }
+}
+
+TEST(DrawCovering, APictureDecodedMeanwhileIsTheSame) {
+  const QSize page(90, 70);
+  PrepareCovering(TwoHalves("JPG", 2), page, 1);
+  PrepareCovering(nullptr, page, 1);
+  PrepareCovering(TwoHalves("JPG", 2), {}, 1);
+  const QImage prepared = Covered(TwoHalves("JPG", 2), page);
+  QPixmapCache::clear();
+  EXPECT_EQ(prepared, Covered(TwoHalves("JPG", 2), page));
+  EXPECT_GT(prepared.pixelColor(80, 60).blue(), 240);
+}
+
+TEST(DrawCovering, APreparedPictureThatNobodyComesForDoesNoHarm) {
+  const QSize page(90, 70);
+  PrepareCovering(TwoHalves("JPG", 3), page, 1);
+  PrepareCovering(TwoHalves("JPG", 4), page, 1);
+  EXPECT_EQ(Covered(TwoHalves("JPG", 3), page), Covered(TwoHalves("JPG", 4), page));
+}
+
+TEST(DrawCovering, WithoutAPictureOrWithABrokenOneAPageIsPlainPaper) {
+  const auto broken = std::make_shared<Picture>(Picture{"a.jpg", "jpg", "\xFF\xD8\xFF no more"});
+  for (const PicturePtr& picture : {PicturePtr(), PicturePtr(broken)}) {
+    PrepareCovering(picture, {20, 10}, 1);
+    const QImage page = Covered(picture, {20, 10});
+    EXPECT_EQ(page.pixelColor(0, 0), palette::kPaper);
+    EXPECT_EQ(page.pixelColor(19, 9), palette::kPaper);
   }
 }
 

@@ -1,10 +1,13 @@
 #!/usr/bin/python3
-"""Starts the program and an empty window by turns, each until its first window is painted, and
-prints time and memory of both.
+"""Starts the program, an empty window and a window with one word on it by turns, each until its
+window is painted, and prints what they take.
 
     bench/start/compare.py BENCH_FOLDER PROGRAM_FOLDER [RUNS]
 
 With no display the library's offscreen one is used, or: xvfb-run bench/start/compare.py ...
+Columns: milliseconds from the start to the painted window, their median and the best of all runs
+(what else the machine does disturbs that least); the median time to the end of the process, which
+for a window without a word includes reading the fonts after all; the largest memory.
 """
 
 import os
@@ -16,18 +19,23 @@ import tempfile
 import time
 from pathlib import Path
 
+PROGRAMS = ("empty_window", "word_window", "menu")
+
 
 def run_once(program, folder):
-    """Seconds to the end of the process, and its largest memory in megabytes."""
+    """Milliseconds to the painted window, to the end of the process, and megabytes."""
     environment = dict(os.environ)
     if not environment.get("DISPLAY"):
         environment["QT_QPA_PLATFORM"] = "offscreen"
-    began = time.perf_counter()
-    process = subprocess.Popen([program], cwd=folder, env=environment, stderr=subprocess.DEVNULL)
+    began = time.monotonic()
+    process = subprocess.Popen([program], cwd=folder, env=environment,
+                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    printed = process.stdout.read()
     _, status, usage = os.wait4(process.pid, 0)
     if status != 0:
         sys.exit(f"{program} ended with status {status}")
-    return time.perf_counter() - began, usage.ru_maxrss / 1024
+    ended = time.monotonic()
+    return (float(printed) - began) * 1000, (ended - began) * 1000, usage.ru_maxrss / 1024
 
 
 def main():
@@ -35,21 +43,25 @@ def main():
         sys.exit(__doc__)
     bench = Path(sys.argv[1]).resolve()
     runs = int(sys.argv[3]) if len(sys.argv) == 4 else 20
-    measured = {"empty_window": [], "menu": []}
+    measured = {name: [] for name in PROGRAMS}
     with tempfile.TemporaryDirectory() as temp:
         folder = Path(temp) / "program"
         shutil.copytree(sys.argv[2], folder)
         for _ in range(runs + 1):
             for name, results in measured.items():
                 results.append(run_once(bench / name, folder))
-    medians = {}
+    print(f"{'':13} {'painted':>8} {'best':>8} {'ended':>8} {'memory':>8}")
+    figures = {}
     for name, results in measured.items():
         # The first start fills the caches of the system.
-        seconds, memory = (statistics.median(column) for column in zip(*results[1:]))
-        medians[name] = (seconds, memory)
-        print(f"{name:13} {seconds * 1000:7.1f} ms {memory:7.1f} MB")
-    empty, menu = medians["empty_window"], medians["menu"]
-    print(f"{'ratio':13} {menu[0] / empty[0]:7.2f}    {menu[1] / empty[1]:7.2f}")
+        painted, ended, memory = zip(*results[1:])
+        figures[name] = (statistics.median(painted), min(painted), statistics.median(ended),
+                         statistics.median(memory))
+        print(f"{name:13} " + " ".join(f"{figure:8.1f}" for figure in figures[name]))
+    for name in ("empty_window", "word_window"):
+        ratios = [ours / theirs for ours, theirs in zip(figures["menu"], figures[name])]
+        print(f"menu / {name.removesuffix('_window'):6} " +
+              " ".join(f"{ratio:8.2f}" for ratio in ratios))
 
 
 main()

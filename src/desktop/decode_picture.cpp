@@ -37,6 +37,25 @@ QImage ReadByQt(const QByteArray& bytes) {
   return largest;
 }
 
+QByteArray Unowned(std::string_view bytes) {
+  return QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+}
+
+// A photograph, whose decoder leaves out what the size has no need of.
+QImage ReadScaled(std::string_view bytes, QSize room, Qt::AspectRatioMode mode) {
+  QByteArray contents = Unowned(bytes);
+  QBuffer buffer(&contents);
+  QImageReader reader(&buffer, "jpg");
+  reader.setAutoTransform(true);
+  QSize size = reader.size();
+  const bool lies = reader.transformation() & QImageIOHandler::TransformationRotate90;
+  if (lies) size.transpose();
+  size.scale(room, mode);
+  if (lies) size.transpose();
+  reader.setScaledSize(size);
+  return reader.read();
+}
+
 // In front of a bitmap that has none, the file header: where its dots begin.
 QByteArray WithFileHeader(std::string_view bitmap) {
   constexpr quint32 kFileHeader = 14;
@@ -123,7 +142,13 @@ QImage DecodePicture(std::string_view bytes) {
   if (format == "emf") return DrawEmf(bytes);
   if (format == "dib") return ReadByQt(WithFileHeader(bytes));
   if (format.empty() || format == "wmf") return {};
-  return ReadByQt(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  return ReadByQt(Unowned(bytes));
+}
+
+QImage DecodePicture(std::string_view bytes, QSize room, Qt::AspectRatioMode mode) {
+  if (PictureFormat(bytes) == "jpg") return ReadScaled(bytes, room, mode);
+  const QImage image = DecodePicture(bytes);
+  return image.isNull() ? image : image.scaled(room, mode, Qt::SmoothTransformation);
 }
 
 }  // namespace brindlepage

@@ -92,14 +92,19 @@ bool HasRichText(const Arrangement& page) {
 
 }  // namespace
 
-FormView::FormView(Form& form, Loop& loop, QWidget* parent)
+FormView::FormView(Form& form, Loop& loop, QWidget* parent, QSize size)
     : QWidget(parent), form_(&form), loop_(loop) {
   setObjectName(ToQString(form.Name()));
   setFocusPolicy(Qt::NoFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  resize(size);
+  // First, so that its picture is decoded while everything else is made.
+  FindBackdrop();
+  SyncForm();
   MakeViews();
   LayOutPage();
   SetTabOrder();
-  SyncAll();
+  SyncControls();
 }
 
 void FormView::Detach() {
@@ -128,6 +133,16 @@ Control* FormView::Holder(const QWidget* widget) const {
   return nullptr;
 }
 
+// An image named "Image1" that is not arranged.
+void FormView::FindBackdrop() {
+  for (Control* control : form_->Controls()) {
+    if (Is<Image>(control) && control->Name() == "Image1") backdrop_ = control;
+  }
+  ForEachControl(form_->arrangement(), [&](Control& control) {
+    if (&control == backdrop_) backdrop_ = nullptr;
+  });
+}
+
 void FormView::MakeViews() {
   std::map<const Control*, Control*> partners;
   std::map<const Control*, bool> wraps;
@@ -150,11 +165,6 @@ void FormView::MakeViews() {
   make([](Control* control) { return IsBareMark(control); });
   make([](Control* control) { return !Is<Toolbar>(control); });
   make([](Control*) { return true; });
-
-  for (Control* control : form_->Controls()) {
-    const bool backdrop = Is<Image>(control) && control->Name() == "Image1";
-    if (backdrop && views_.count(control) == 0) backdrop_ = control;
-  }
 }
 
 void FormView::MakeView(Control& control, QWidget* partner, bool wraps) {
@@ -258,6 +268,8 @@ void FormView::SetTabOrder() {
 }
 
 PicturePtr FormView::Background() const {
+  // A document leaves nothing of it to be seen.
+  if (HasRichText(form_->arrangement())) return nullptr;
   if (const auto* image = dynamic_cast<const Image*>(backdrop_)) return image->Picture;
   return form_->Picture;
 }
@@ -269,11 +281,13 @@ void FormView::SyncForm() {
   const PicturePtr background = Background();
   if (background == background_) return;
   background_ = background;
+  if (form_->kind() == FormKind::Screen) {
+    PrepareCovering(background, size(), devicePixelRatioF());
+  }
   update();
 }
 
-void FormView::SyncAll() {
-  SyncForm();
+void FormView::SyncControls() {
   for (auto& [control, view] : views_) view->Sync();
 }
 
@@ -321,8 +335,7 @@ bool FormView::CanClick(bool default_button) const {
 
 void FormView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), palette::kPaper);
-  painter.drawPixmap(0, 0, CoveringPicture(background_, size(), devicePixelRatioF()));
+  DrawCovering(painter, background_, size());
 }
 
 void FormView::resizeEvent(QResizeEvent* event) {

@@ -25,7 +25,8 @@ namespace brindlepage {
 // that places its controls itself fills the page with a GridView.
 class FormView : public QWidget {
  public:
-  FormView(Form& form, Loop& loop, QWidget* parent = nullptr);
+  // `size`: the size in which it will first be shown.
+  FormView(Form& form, Loop& loop, QWidget* parent, QSize size);
 
   // Null once detached.
   Form* form() const { return form_; }
@@ -39,7 +40,6 @@ class FormView : public QWidget {
 
   // Brings what belongs to no control's widget up to date: background, menus.
   void SyncForm();
-  void SyncAll();
   // Gives the keys to the control that has the focus; at first to the first field.
   void SyncFocus();
 
@@ -54,6 +54,7 @@ class FormView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  void FindBackdrop();
   void MakeViews();
   void MakeView(Control& control, QWidget* partner, bool wraps);
   void LayOutPage();
@@ -61,6 +62,7 @@ class FormView : public QWidget {
   void AddPanel(QBoxLayout& page, QLayout* content, bool wants_room);
   void AddOnBackdrop(QBoxLayout& page, QLayout* content);
   void SetTabOrder();
+  void SyncControls();
   Control* FirstField() const;
   bool CanClick(bool default_button) const;
   PicturePtr Background() const;

@@ -3,8 +3,9 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
-#include <sstream>
-#include <string>
+#include <algorithm>
+#include <charconv>
+#include <string_view>
 
 #include "desktop/style.h"
 
@@ -159,15 +160,42 @@ const Drawing* FindDrawing(std::string_view name) {
   return nullptr;
 }
 
-QPainterPath ReadPath(std::istream& in) {
+// Reads a drawing word by word.
+class Words {
+ public:
+  explicit Words(std::string_view text) : text_(text) {}
+
+  // The next letter, or 0 at the end.
+  char Letter() {
+    SkipBlanks();
+    if (text_.empty()) return 0;
+    const char letter = text_.front();
+    text_.remove_prefix(1);
+    return letter;
+  }
+  double Number() {
+    SkipBlanks();
+    double number = 0;
+    const auto end = std::from_chars(text_.data(), text_.data() + text_.size(), number).ptr;
+    text_.remove_prefix(static_cast<std::size_t>(end - text_.data()));
+    return number;
+  }
+
+ private:
+  void SkipBlanks() { text_.remove_prefix(std::min(text_.find_first_not_of(' '), text_.size())); }
+
+  std::string_view text_;
+};
+
+// Up to the end of the shape.
+QPainterPath ReadPath(Words& words) {
   QPainterPath path;
-  char step;
-  while (in >> step) {
+  for (;;) {
     double n[6] = {};
     const auto read = [&](int count) {
-      for (int i = 0; i < count; ++i) in >> n[i];
+      for (int i = 0; i < count; ++i) n[i] = words.Number();
     };
-    switch (step) {
+    switch (words.Letter()) {
       case 'M':
         read(2);
         path.moveTo(n[0], n[1]);
@@ -195,7 +223,6 @@ QPainterPath ReadPath(std::istream& in) {
         return path;
     }
   }
-  return path;
 }
 
 struct Paint {
@@ -247,18 +274,15 @@ void Draw(const Drawing& drawing, QPainter& painter, const QRectF& room, bool di
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(room.center() - QPointF(side, side) / 2);
   painter.scale(scale, scale);
-  std::istringstream shapes(drawing.shapes);
-  for (std::string shape; std::getline(shapes, shape, ';');) {
-    std::istringstream in(shape);
-    char role;
-    if (!(in >> role)) continue;
+  Words words(drawing.shapes);
+  while (const char role = words.Letter()) {
     Paint paint = RolePaint(role);
     if (disabled) paint = {Faded(paint.edge), Faded(paint.fill)};
     painter.setPen(paint.edge.isValid()
                        ? QPen(paint.edge, line, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin)
                        : QPen(Qt::NoPen));
     painter.setBrush(paint.fill.isValid() ? QBrush(paint.fill) : QBrush(Qt::NoBrush));
-    painter.drawPath(ReadPath(in));
+    painter.drawPath(ReadPath(words));
   }
   painter.restore();
 }

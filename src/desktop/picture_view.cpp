@@ -3,9 +3,13 @@
 #include <QHashFunctions>
 #include <QPainter>
 #include <QPixmapCache>
+#include <QThreadPool>
+#include <future>
+#include <utility>
 
 #include "desktop/decode_picture.h"
 #include "desktop/icons.h"
+#include "desktop/style.h"
 
 namespace brindlepage {
 
@@ -13,43 +17,77 @@ namespace {
 constexpr int kIconSide = 64;  // pixels
 constexpr QSize kUsualPicture{360, 270};
 
-// What `make` makes of the decoded picture, kept for the next time.
-template <class Make>
-QPixmap KeptPicture(const char* how, const PicturePtr& picture, QSize size, Make make) {
-  if (picture == nullptr || size.isEmpty()) return {};
-  const QString key = QString("%1/%2/%3/%4x%5")
-                          .arg(how)
-                          .arg(qHashBits(picture->bytes.data(), picture->bytes.size()))
-                          .arg(picture->bytes.size())
-                          .arg(size.width())
-                          .arg(size.height());
+// A picture and what of it is wanted. Both together make the name under which it is kept.
+struct Wanted {
+  PicturePtr picture;
+  QSize room;  // pixels
+  Qt::AspectRatioMode mode;
+
+  bool IsNothing() const { return picture == nullptr || room.isEmpty(); }
+  QString Key() const {
+    return QString("%1/%2/%3/%4x%5")
+        .arg(mode)
+        .arg(qHashBits(picture->bytes.data(), picture->bytes.size()))
+        .arg(picture->bytes.size())
+        .arg(room.width())
+        .arg(room.height());
+  }
+  QImage Decode() const { return DecodePicture(picture->bytes, room, mode); }
+};
+
+// What another thread is decoding, one picture at a time.
+struct Coming {
+  QString key;
+  std::future<QImage> image;
+};
+
+Coming& TheComing() {
+  static Coming coming;
+  return coming;
+}
+
+void Prepare(const Wanted& wanted) {
+  if (wanted.IsNothing()) return;
+  const QString key = wanted.Key();
+  QPixmap kept;
+  if (TheComing().key == key || QPixmapCache::find(key, &kept)) return;
+  const auto decoded = std::make_shared<std::promise<QImage>>();
+  TheComing() = {key, decoded->get_future()};
+  // The application waits for these threads before it goes.
+  QThreadPool::globalInstance()->start([wanted, decoded] { decoded->set_value(wanted.Decode()); });
+}
+
+QPixmap Kept(const Wanted& wanted) {
+  if (wanted.IsNothing()) return {};
+  const QString key = wanted.Key();
   QPixmap kept;
   if (QPixmapCache::find(key, &kept)) return kept;
-  const QImage image = DecodePicture(picture->bytes);
-  if (image.isNull()) return {};
-  kept = QPixmap::fromImage(make(image));
-  QPixmapCache::insert(key, kept);
+  Coming coming;
+  if (TheComing().key == key) coming = std::exchange(TheComing(), {});
+  kept = QPixmap::fromImage(coming.image.valid() ? coming.image.get() : wanted.Decode());
+  if (!kept.isNull()) QPixmapCache::insert(key, kept);
   return kept;
 }
 
 }  // namespace
 
-QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio) {
-  const QSize wanted = size * pixel_ratio;
-  QPixmap covering = KeptPicture("covering", picture, wanted, [wanted](const QImage& image) {
-    const QSize whole = image.size().scaled(wanted, Qt::KeepAspectRatioByExpanding);
-    const QRect part(QPoint(whole.width() - wanted.width(), whole.height() - wanted.height()),
-                     wanted);
-    return image.scaled(whole, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).copy(part);
-  });
-  covering.setDevicePixelRatio(pixel_ratio);
-  return covering;
+void DrawCovering(QPainter& painter, const PicturePtr& picture, QSize page) {
+  const double ratio = painter.device()->devicePixelRatioF();
+  QPixmap covering = Kept({picture, page * ratio, Qt::KeepAspectRatioByExpanding});
+  covering.setDevicePixelRatio(ratio);
+  if (covering.isNull() || covering.hasAlphaChannel()) {
+    painter.fillRect(QRect(QPoint(), page), palette::kPaper);
+  }
+  const QSizeF size = covering.deviceIndependentSize();
+  painter.drawPixmap(QPointF(page.width() - size.width(), page.height() - size.height()), covering);
+}
+
+void PrepareCovering(const PicturePtr& picture, QSize page, double pixel_ratio) {
+  Prepare({picture, page * pixel_ratio, Qt::KeepAspectRatioByExpanding});
 }
 
 QPixmap StretchedPicture(const PicturePtr& picture, QSize size) {
-  return KeptPicture("stretched", picture, size, [size](const QImage& image) {
-    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  });
+  return Kept({picture, size, Qt::IgnoreAspectRatio});
 }
 
 PictureView::PictureView(const QIcon& icon, QWidget* parent) : QWidget(parent), icon_(icon) {

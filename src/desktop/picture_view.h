@@ -7,11 +7,16 @@
 
 #include "toolkit/picture.h"
 
+class QPainter;
+
 namespace brindlepage {
 
-// The picture as it covers a page of that size, its right and lower edges showing. Kept for the
-// next page with the same picture.
-QPixmap CoveringPicture(const PicturePtr& picture, QSize size, double pixel_ratio);
+// Draws the picture as it covers a page of that size, its right and lower edges showing. What has
+// been drawn is kept for the next page with the same picture. Without a picture, plain paper.
+void DrawCovering(QPainter& painter, const PicturePtr& picture, QSize page);
+
+// The picture will soon cover a page of that size: decodes it meanwhile in another thread.
+void PrepareCovering(const PicturePtr& picture, QSize page, double pixel_ratio);
 
 // The picture of exactly that size in pixels, whatever its proportions. Kept likewise.
 QPixmap StretchedPicture(const PicturePtr& picture, QSize size);

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
@@ -38,6 +39,21 @@ bool IsTypewriter(const QString& font) {
     if (font.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return true;
   }
   return false;
+}
+
+// The font itself, or what stands for it here.
+QStringList FindFamilies(const QString& font) {
+  QStringList families{font};
+  if (IsTypewriter(font)) {
+    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    families = {"Courier New", "Liberation Mono", QFontInfo(fixed).family()};
+  } else if (font.compare(QLatin1String("Times New Roman"), Qt::CaseInsensitive) == 0) {
+    families = {font, "Liberation Serif", QFontInfo(QFont("serif")).family()};
+  }
+  const auto missing = [](const QString& family) { return !QFontDatabase::hasFamily(family); };
+  QStringList installed = families;
+  installed.removeIf(missing);
+  return installed.isEmpty() ? families : installed;
 }
 
 // Fonts of another pitch than the typewriter's are set a little closer or wider, so that a line
@@ -247,18 +263,12 @@ void RichTextLayout::HangBlanks() {
   tails->rehighlight();
 }
 
+// Looking for a font that isn't installed takes the system a while: once is enough.
 QStringList ShownFamilies(const QString& font) {
-  QStringList families{font};
-  if (IsTypewriter(font)) {
-    const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    families = {"Courier New", "Liberation Mono", QFontInfo(fixed).family()};
-  } else if (font.compare(QLatin1String("Times New Roman"), Qt::CaseInsensitive) == 0) {
-    families = {font, "Liberation Serif", QFontInfo(QFont("serif")).family()};
-  }
-  const auto missing = [](const QString& family) { return !QFontDatabase::hasFamily(family); };
-  QStringList installed = families;
-  installed.removeIf(missing);
-  return installed.isEmpty() ? families : installed;
+  static QHash<QString, QStringList> known;
+  QStringList& families = known[font];
+  if (families.isEmpty()) families = FindFamilies(font);
+  return families;
 }
 
 }  // namespace brindlepage

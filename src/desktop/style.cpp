@@ -297,6 +297,7 @@ void ApplyStyle(QApplication& application) {
 void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value) {
   if (widget.property(name) == value) return;
   widget.setProperty(name, value);
+  if (!widget.testAttribute(Qt::WA_WState_Polished)) return;
   widget.style()->unpolish(&widget);
   widget.style()->polish(&widget);
 }

@@ -174,10 +174,10 @@ QWidget* Windows::Front() const {
   return main_->isVisible() ? main_ : nullptr;
 }
 
-FormView& Windows::ViewFor(Form& form) {
+FormView& Windows::ViewFor(Form& form, QWidget& window, QSize size) {
   FormView*& view = views_[&form];
   if (view == nullptr) {
-    view = new FormView(form, loop_);
+    view = new FormView(form, loop_, &window, size);
     view->on_resize = [this] { FlushSoon(); };
   }
   return *view;
@@ -188,9 +188,16 @@ FormWindow& Windows::BoxFor(Form& form) {
   if (box == nullptr) {
     box = new FormWindow(*this, main_, true);
     box->setObjectName(ToQString(form.Name()) + "Window");
-    box->ShowPage(ViewFor(form));
+    box->ShowPage(ViewFor(form, *box, box->size()));
   }
   return *box;
+}
+
+void Windows::Place() {
+  if (placed_) return;
+  placed_ = true;
+  const QSize room = main_->screen()->availableSize() - kFrame;
+  main_->resize(kUsualSize.boundedTo(room));
 }
 
 void Windows::ShowTopPage() {
@@ -201,17 +208,15 @@ void Windows::ShowTopPage() {
     return;
   }
   Form& form = **top;
-  FormView& page = ViewFor(form);
+  Place();
+  const bool goes_back = maximised_by_program_ && form.WindowState == kNormal;
+  const QSize size = goes_back ? main_->normalGeometry().size() : main_->size();
+  FormView& page = ViewFor(form, *main_, size);
   const bool turned = main_->Page() != &page;
   turning_ = true;
   main_->ShowPage(page);
   turning_ = false;
   main_->setWindowTitle(ToQString(form.Caption));
-  if (!placed_) {
-    placed_ = true;
-    const QSize room = main_->screen()->availableSize() - kFrame;
-    main_->resize(kUsualSize.boundedTo(room));
-  }
   if (turned || !main_->isVisible() || form.WindowState != state_followed_) {
     state_followed_ = form.WindowState;
     FollowWindowState(form);

@@ -73,7 +73,8 @@ class Windows : public QObject {
   void TellSizes();
 
   void FollowWindowState(Form& form);
-  FormView& ViewFor(Form& form);
+  void Place();
+  FormView& ViewFor(Form& form, QWidget& window, QSize size);
   FormWindow& BoxFor(Form& form);
   void FocusMoved(QWidget* now);
   void ApplicationLeft();
