@@ -94,6 +94,14 @@ void Hand::Await(const std::string& form) {
   QTest::qWait(100);
 }
 
+void Hand::AwaitReady(const std::string& form, const std::string& control) {
+  Await(form);
+  constexpr int kLongest = 60'000;
+  const auto ready = [&] { return Loaded(form)->FindControl(control)->CanAct(); };
+  if (!QTest::qWaitFor(ready, kLongest)) throw std::runtime_error(form + " is never ready");
+  QTest::qWait(100);
+}
+
 void Hand::Wait(int milliseconds) { QTest::qWait(milliseconds); }
 
 Form* Hand::Loaded(const std::string& name) const {

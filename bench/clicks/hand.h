@@ -31,6 +31,8 @@ class Hand {
 
   // Until that form is on screen; for what timers do. Fails loudly after a while.
   void Await(const std::string& form);
+  // And for its control, which can't act while the form makes something.
+  void AwaitReady(const std::string& form, const std::string& control);
   void Wait(int milliseconds);
 
  private:

@@ -223,9 +223,8 @@ void Crossword(Hand& hand) {
   hand.Click("CrossPrint", "Command1");
   hand.PressForm();
   hand.Click("CrossPrint", "Command5", -1, Hand::kLong);
-  hand.Await("CrosswordWorksheet");
+  hand.AwaitReady("CrosswordWorksheet", "QuizBox");
   WorkOn(hand, "CrosswordWorksheet", true);
-  hand.Item("CrosswordWorksheet", "Back");
 }
 
 void Lists(Hand& hand) {

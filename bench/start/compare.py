@@ -38,25 +38,31 @@ def run_once(program, folder):
     return (float(printed) - began) * 1000, (ended - began) * 1000, usage.ru_maxrss / 1024
 
 
-def main():
-    if len(sys.argv) not in (3, 4):
-        sys.exit(__doc__)
-    bench = Path(sys.argv[1]).resolve()
-    runs = int(sys.argv[3]) if len(sys.argv) == 4 else 20
+def compare(bench, program_folder, runs=20):
+    """By program: painted (median and best), ended, memory."""
+    bench = Path(bench).resolve()
     measured = {name: [] for name in PROGRAMS}
     with tempfile.TemporaryDirectory() as temp:
         folder = Path(temp) / "program"
-        shutil.copytree(sys.argv[2], folder)
+        shutil.copytree(program_folder, folder)
         for _ in range(runs + 1):
             for name, results in measured.items():
                 results.append(run_once(bench / name, folder))
-    print(f"{'':13} {'painted':>8} {'best':>8} {'ended':>8} {'memory':>8}")
     figures = {}
     for name, results in measured.items():
         # The first start fills the caches of the system.
         painted, ended, memory = zip(*results[1:])
         figures[name] = (statistics.median(painted), min(painted), statistics.median(ended),
                          statistics.median(memory))
+    return figures
+
+
+def main():
+    if len(sys.argv) not in (3, 4):
+        sys.exit(__doc__)
+    figures = compare(*sys.argv[1:3], runs=int(sys.argv[3]) if len(sys.argv) == 4 else 20)
+    print(f"{'':13} {'painted':>8} {'best':>8} {'ended':>8} {'memory':>8}")
+    for name in PROGRAMS:
         print(f"{name:13} " + " ".join(f"{figure:8.1f}" for figure in figures[name]))
     for name in ("empty_window", "word_window"):
         ratios = [ours / theirs for ours, theirs in zip(figures["menu"], figures[name])]
@@ -64,4 +70,5 @@ def main():
               " ".join(f"{ratio:8.2f}" for ratio in ratios))
 
 
-main()
+if __name__ == "__main__":
+    main()
