@@ -88,6 +88,14 @@ void WorkOn(Hand& hand, const std::string& form, bool has_key) {
   }
 }
 
+// From the word picker to the sheet of all its words, and back to the menu.
+void MakeSheet(Hand& hand, const std::string& form) {
+  MarkAll(hand);
+  hand.Click("PickWords", "Command2");
+  WorkOn(hand, form, true);
+  hand.Item(form, "Back");
+}
+
 void Menu(Hand& hand) {
   hand.Tool("Title", "Info");
   hand.Click("AboutForm", "Command1");
@@ -127,19 +135,13 @@ void Scramble(Hand& hand) {
   hand.Click("Title", "Command1", 2);
   ChooseWords(hand, kPuzzleWords);
   hand.Click("ScrambleOption1", "Command1");
-  MarkAll(hand);
-  hand.Click("PickWords", "Command2");
-  WorkOn(hand, "Scramble", true);
-  hand.Item("Scramble", "Back");
+  MakeSheet(hand, "Scramble");
 }
 
 void SecretCode(Hand& hand) {
   hand.Click("Title", "Command1", 5);
   ChooseWords(hand, kFullList);
-  MarkAll(hand);
-  hand.Click("PickWords", "Command2");
-  WorkOn(hand, "CodeForm", true);
-  hand.Item("CodeForm", "Back");
+  MakeSheet(hand, "CodeForm");
 }
 
 void Riddle(Hand& hand) {
@@ -174,20 +176,14 @@ std::function<void(Hand&)> Quiz(const char* kind) {
     ChooseWords(hand, kPuzzleWords);
     hand.Click("QuizOptions3", kind);
     hand.Click("QuizOptions3", "Command1");
-    MarkAll(hand);
-    hand.Click("PickWords", "Command2");
-    WorkOn(hand, "QuizForm", true);
-    hand.Item("QuizForm", "Back");
+    MakeSheet(hand, "QuizForm");
   };
 }
 
 void Alphabetize(Hand& hand) {
   hand.Click("Title", "Command4");
   ChooseWords(hand, kFullList);
-  MarkAll(hand);
-  hand.Click("PickWords", "Command2");
-  WorkOn(hand, "QuizForm", true);
-  hand.Item("QuizForm", "Back");
+  MakeSheet(hand, "QuizForm");
 }
 
 void WordSearch(Hand& hand) {

@@ -113,8 +113,9 @@ class RichTextView : public QGraphicsView {
 
 // Prints `length` characters from `start`, or with a length of 0 or less the whole document: the
 // column in the middle of the paper, its lines as on screen, three quarters of an inch free at
-// the top and bottom. Paper that is too narrow gets the column smaller. Throws RunTimeError
-// "Device I/O error" if the printer can't be used.
+// the top and bottom, and a question of a few lines on one page. Paper that is too narrow gets the
+// column smaller. Throws RunTimeError "Device I/O error" if the printer can't be used, and "Disk
+// full" if the file that it writes isn't whole.
 void PrintRichText(const RichTextBox& box, int start, int length, QPrinter& printer);
 
 }  // namespace brindlepage

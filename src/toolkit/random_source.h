@@ -67,6 +67,7 @@ class Xoshiro {
   std::array<std::uint32_t, 4> state_;
 };
 
+// Draws of a generator, made in blocks.
 class GeneratedDraws : public RandomSource {
  protected:
   explicit GeneratedDraws(std::uint64_t seed) : generator_(seed) {}
