@@ -3,13 +3,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "expect_fault.h"
 #include "fuzz/rtf_check.h"
+#include "tests/file_bytes.h"
 
 namespace brindlepage {
 namespace {
@@ -23,9 +22,7 @@ struct File {
 std::vector<File> Corpus() {
   std::vector<File> files;
   for (const auto& entry : std::filesystem::directory_iterator(RTF_CORPUS)) {
-    std::ifstream file(entry.path(), std::ios::binary);
-    files.push_back(
-        {entry.path().filename().string(), std::string(std::istreambuf_iterator<char>(file), {})});
+    files.push_back({entry.path().filename().string(), FileBytes(entry.path()).value()});
   }
   return files;
 }

@@ -2,12 +2,15 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <optional>
 #include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
+
+#include "tests/file_bytes.h"
 
 namespace brindlepage {
 
@@ -50,9 +53,9 @@ class TempFolder {
   }
 
   std::string Read(const std::filesystem::path& name) const {
-    std::ifstream file(path_ / name, std::ios::binary);
-    if (!file) throw std::runtime_error("can't read " + name.string());
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    std::optional<std::string> bytes = FileBytes(path_ / name);
+    if (!bytes) throw std::runtime_error("can't read " + name.string());
+    return *std::move(bytes);
   }
 
  private:

@@ -4,6 +4,7 @@
 
 #include "program/screens.h"
 #include "tests/bitmaps.h"
+#include "tests/file_bytes.h"
 #include "worksheet/rich_text.h"
 #include "worksheet/rtf_writer.h"
 
@@ -12,11 +13,6 @@ namespace brindlepage {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Opened(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(stream), {});
-}
 
 std::string SavedWorksheet() {
   RichText text("Arial", 10);
@@ -44,7 +40,7 @@ Snapshot Look(const fs::path& folder) {
     if (entry.is_symlink()) {
       seen[name] = "link to " + fs::read_symlink(entry.path()).generic_string();
     } else {
-      seen[name] = entry.is_directory() ? "folder" : Opened(entry.path());
+      seen[name] = entry.is_directory() ? "folder" : FileBytes(entry.path()).value_or("");
     }
   }
   return seen;

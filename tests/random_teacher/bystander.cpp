@@ -1,10 +1,9 @@
 #include "tests/random_teacher/bystander.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 
+#include "tests/file_bytes.h"
 #include "toolkit/controls.h"
 #include "toolkit/lists.h"
 
@@ -21,12 +20,6 @@ Kind& The(const Form& form, const char* name) {
 
 const std::string& TextIn(const Form& form, const char* box) {
   return The<TextBox>(form, box).Text;
-}
-
-std::optional<std::string> BytesOf(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 // A few lines from where the two begin to differ.
@@ -50,7 +43,7 @@ std::string Difference(const std::string& held, const std::string& wanted) {
 
 Bystander::Bystander(fs::path folder) : folder_(std::move(folder)) {
   for (const fs::path& path : {folder_ / "TheLists.dat", folder_ / "class" / "TheLists.dat"}) {
-    if (const auto bytes = BytesOf(path)) files_.emplace(path, *bytes);
+    if (const auto bytes = FileBytes(path)) files_.emplace(path, *bytes);
   }
 }
 
@@ -113,7 +106,7 @@ std::string Bystander::Compare() const {
     for (const char* name : {"TheLists.dat", "TheLists.bak"}) {
       const fs::path path = folder / name;
       const std::string shown = path.lexically_relative(folder_).string();
-      const auto bytes = BytesOf(path);
+      const auto bytes = FileBytes(path);
       const auto known = files_.find(path);
       if (bytes && known == files_.end()) return shown + " should not be there";
       if (!bytes && known != files_.end()) return shown + " is not there";

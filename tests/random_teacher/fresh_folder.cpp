@@ -1,9 +1,10 @@
 #include "tests/random_teacher/fresh_folder.h"
 
 #include <fstream>
-#include <iterator>
 #include <string>
 #include <string_view>
+
+#include "tests/file_bytes.h"
 
 namespace brindlepage {
 
@@ -28,11 +29,6 @@ void Write(const fs::path& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary).write(bytes.data(), std::streamsize(bytes.size()));
 }
 
-std::string Bytes(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(file), {});
-}
-
 }  // namespace
 
 void FillFreshFolder(const fs::path& program_folder, const fs::path& folder, long round) {
@@ -50,7 +46,7 @@ void FillFreshFolder(const fs::path& program_folder, const fs::path& folder, lon
 
 std::string SpoiltFile(const fs::path& program_folder, const fs::path& folder) {
   for (const char* name : {"Riddles.dat", "titleback.jpg", "brindlepagebackground.jpg"}) {
-    if (Bytes(folder / name) != Bytes(program_folder / name)) {
+    if (FileBytes(folder / name) != FileBytes(program_folder / name)) {
       return std::string(name) + ", which no screen writes, was written to";
     }
   }
