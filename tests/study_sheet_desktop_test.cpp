@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QtTest/QTest>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "desktop/rich_text_view.h"
 #include "tests/desktop_fixture.h"
@@ -14,6 +17,24 @@
 
 namespace brindlepage {
 namespace {
+
+// The sizes in pixels at which a form is painted while this lives.
+class PaintedSizes : public QObject {
+ public:
+  explicit PaintedSizes(const char* form) {
+    setObjectName(form);
+    qApp->installEventFilter(this);
+  }
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (event->type() == QEvent::Paint && widget != nullptr &&
+        widget->objectName() == objectName()) {
+      sizes.emplace(widget->width(), widget->height());
+    }
+    return false;
+  }
+  std::set<std::pair<int, int>> sizes;
+};
 
 class StudySheetTest : public DesktopTest {
  protected:
@@ -145,6 +166,19 @@ TEST_F(StudySheetTest, AWorksheetFillsTheScreenAndTheMenuComesBackAsItWas) {
   EXPECT_EQ(Active(), "Title");
   EXPECT_FALSE(main().isMaximized());
   EXPECT_EQ(main().size(), before);
+}
+
+TEST_F(StudySheetTest, TheMenuIsNotPaintedLargeBeforeItsWindowGoesBack) {
+  UseOneList(5);
+  Start();
+  const QSize before = main().Page()->size();
+  GoToPickWords(4);
+  Click("PickWords", "ChooseRandom");
+  Click("PickWords", "Command2");
+  PaintedSizes title("Title");
+  main().Page()->findChild<QMenuBar*>()->findChild<QAction*>("Back")->trigger();
+  Settle();
+  EXPECT_EQ(title.sizes, std::set{std::pair(before.width(), before.height())});
 }
 
 TEST_F(StudySheetTest, AWindowThatTheTeacherMaximisedStaysSo) {

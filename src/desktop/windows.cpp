@@ -18,6 +18,7 @@ namespace {
 constexpr QSize kUsualSize{1000, 720};
 constexpr QSize kSmallestSize{640, 440};
 constexpr QSize kFrame{16, 40};  // about what a window's frame takes
+constexpr int kMoment = 100;     // milliseconds
 
 bool InBox() { return QApplication::activeModalWidget() != nullptr; }
 
@@ -70,7 +71,6 @@ Windows::Windows(Loop& loop) : loop_(loop), main_(new FormWindow(*this, nullptr,
   connect(qApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             // Between two windows of the program it may look left for a moment.
-            constexpr int kMoment = 100;
             if (state == Qt::ApplicationInactive) {
               QTimer::singleShot(kMoment, this, [this] { ApplicationLeft(); });
             }
@@ -231,7 +231,9 @@ void Windows::FollowWindowState(Form& form) {
     main_->showMaximized();
   } else if (form.WindowState == kNormal && maximised_by_program_) {
     maximised_by_program_ = false;
+    const QSize size = main_->normalGeometry().size();
     main_->showNormal();
+    main_->resize(size);  // the page is not painted at the large size first
   } else if (!main_->isVisible()) {
     is_maximised ? main_->showMaximized() : main_->show();
   }
@@ -286,7 +288,8 @@ void Windows::ShowFocus() {
 void Windows::Bury() {
   for (QWidget* widget : std::exchange(dead_, {})) {
     widget->hide();
-    widget->deleteLater();
+    // To clear a long document away takes a while: not before what comes next is painted.
+    QTimer::singleShot(kMoment, widget, &QObject::deleteLater);
   }
 }
 
