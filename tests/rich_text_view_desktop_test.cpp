@@ -33,7 +33,8 @@ TEST_F(AnOpenSheet, TheWholeDocumentIsShownAsItStandsWhenTheSheetOpens) {
     box.SelUnderline(true);
     box.SelText("end");
   });
-  const RichTextView second(box(), runtime);
+  RichTextView second(box(), runtime);
+  second.show();
   EXPECT_EQ(Lines(second.document()), Lines(view->document()));
   ExpectBothEqual();
   EXPECT_EQ(view->document().toPlainText(), QString::fromUtf16(u"Volcanoes\ncafé\n\n\uFFFCend"));

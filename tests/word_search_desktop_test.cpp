@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QToolButton>
 #include <QtTest/QTest>
 #include <filesystem>
 
@@ -148,6 +149,8 @@ TEST_F(AWordSearchOnScreen, OfTheLargestSizeFitsTheColumnWithStraightCells) {
   RichTextView& sheet = View(form().QuizBox);
   EXPECT_EQ(sheet.horizontalScrollBar()->maximum(), 0);
   ExpectStraight(sheet);
+  QTest::mouseClick(desktop_->windows().main().findChild<QToolButton*>("Key"), Qt::LeftButton);
+  Settle();
   ExpectStraight(View(form().AnswerBox));
 }
 

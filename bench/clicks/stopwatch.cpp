@@ -1,12 +1,33 @@
 #include "bench/clicks/stopwatch.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QDialog>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QtTest/QTest>
 #include <algorithm>
 #include <ctime>
+#include <utility>
+
+namespace {
+
+// All that is seen in the window but for its scroll bars.
+QImage Dots(QWidget& window) {
+  auto& painted = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
+  QImage dots = painted.copy();
+  QPainter painter(&dots);
+  for (const QScrollBar* bar : window.findChildren<QScrollBar*>()) {
+    if (bar->isVisible()) {
+      painter.fillRect(QRect(bar->mapTo(&window, QPoint()), bar->size()), Qt::gray);
+    }
+  }
+  return dots;
+}
+
+}  // namespace
 
 Stopwatch::Stopwatch() {
   constexpr int kWake = 5;
@@ -26,21 +47,19 @@ void Stopwatch::Measure(const std::string& name, const std::function<void()>& cl
 void Stopwatch::Begin(const std::string& name) {
   name_ = name;
   running_ = true;
-  NotePainted();
-  began_ = painted_;
-  work_began_ = work_painted_;
+  began_ = answered_ = painted_ = Now();
 }
 
-void Stopwatch::NotePainted() {
-  painted_ = Now();
-  work_painted_ = 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+Stopwatch::Moment Stopwatch::Now() const {
+  return {static_cast<double>(clock_.nsecsElapsed()) / 1e6,
+          1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC};
 }
 
 bool Stopwatch::Rests() {
   if (!running_) return true;
-  if (paint_coming_ || Now() - painted_ < rest_) return false;
+  if (paint_coming_ || Now().time - painted_.time < rest_) return false;
   running_ = false;
-  const Time time{painted_ - began_, work_painted_ - work_began_};
+  const Time time{answered_.time - began_.time, answered_.work - began_.work};
   Time& best = best_.try_emplace(name_, time).first->second;
   best.answer = std::min(best.answer, time.answer);
   best.work = std::min(best.work, time.work);
@@ -60,13 +79,32 @@ void Stopwatch::AnswerBox() {
   answered_box_ = nullptr;
 }
 
-bool Stopwatch::eventFilter(QObject*, QEvent* event) {
+bool Stopwatch::LooksChanged() {
+  bool changed = false;
+  for (QWidget* window : std::exchange(being_painted_, {})) {
+    QImage seen = Dots(*window);
+    QImage& before = seen_[window];
+    changed = changed || seen != before;
+    before = std::move(seen);
+  }
+  return changed;
+}
+
+bool Stopwatch::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Destroy || event->type() == QEvent::Hide) {
+    auto* gone = static_cast<QWidget*>(watched);
+    being_painted_.erase(gone);
+    seen_.erase(gone);
+  }
+  if (event->type() != QEvent::Paint) return false;
+  if (auto* widget = qobject_cast<QWidget*>(watched)) being_painted_.insert(widget->window());
   // All parts of a window are painted in one go, and this waits until they are.
-  if (event->type() == QEvent::Paint && !paint_coming_) {
+  if (!paint_coming_) {
     paint_coming_ = true;
     QTimer::singleShot(0, this, [this] {
       paint_coming_ = false;
-      NotePainted();
+      painted_ = Now();
+      if (LooksChanged()) answered_ = painted_;
     });
   }
   return false;

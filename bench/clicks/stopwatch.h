@@ -1,15 +1,18 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QImage>
 #include <QObject>
 #include <QTimer>
 #include <functional>
 #include <map>
+#include <set>
 #include <string>
 
 // Measures how long a window takes to answer: from the click to the moment at which the last
-// thing that it changed has been painted and the program rests. A message box is an answer too;
-// what it waits for is the next click, on its first button.
+// thing that it changed has been painted and the program rests. A painting that leaves every dot
+// as it was changes nothing, and neither does a scroll bar that learns how long a document is. A
+// message box is an answer too; what it waits for is the next click, on its first button.
 class Stopwatch : public QObject {
  public:
   // Milliseconds, the best of all rounds.
@@ -31,22 +34,30 @@ class Stopwatch : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  // Milliseconds since the stopwatch was made.
+  struct Moment {
+    double time = 0;
+    double work = 0;  // of the processor
+  };
+
+  Moment Now() const;
   void Begin(const std::string& name);
   // Notes the answer if nothing has been painted for as long as that. Whether it did.
   bool Rests();
   void AnswerBox();
-  void NotePainted();
-  double Now() const { return static_cast<double>(clock_.nsecsElapsed()) / 1e6; }
+  // Whether a window that was painted looks different now.
+  bool LooksChanged();
 
   QElapsedTimer clock_;
   QTimer wake_;  // also inside a box
   std::string name_;
-  double began_ = 0;
-  double painted_ = 0;
-  double work_began_ = 0;
-  double work_painted_ = 0;
+  Moment began_;
+  Moment answered_;
+  Moment painted_;
   int rest_ = 0;
   bool paint_coming_ = false;
+  std::set<QWidget*> being_painted_;
+  std::map<QWidget*, QImage> seen_;
   bool running_ = false;
   QObject* answered_box_ = nullptr;
   Times best_;

@@ -186,6 +186,19 @@ RichTextLayout::RichTextLayout(const RichText& text) : text_(text) {
   QFont font(ShownFamilies(FontName(design)));
   font.setPointSizeF(design.size / 20.0);
   document_.setDefaultFont(font);
+  LayOutMuchBySteps();
+}
+
+// After a change of much, only what is drawn is laid out at once, and the rest while nothing else
+// is done: Qt does so with a document whose layout is begun anew.
+void RichTextLayout::LayOutMuchBySteps() {
+  constexpr int kMuch = 4000;  // characters
+  QObject::connect(&document_, &QTextDocument::contentsChange, &document_,
+                   [this](int, int, int added) {
+                     if (added > kMuch) document_.setLayoutEnabled(false);
+                   });
+  QObject::connect(&document_, &QTextDocument::contentsChanged, &document_,
+                   [this] { document_.setLayoutEnabled(true); });
 }
 
 void RichTextLayout::Load(int start, int end) {

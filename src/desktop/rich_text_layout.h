@@ -86,6 +86,8 @@ class RichTextLayout {
   void HangBlanks();
 
  private:
+  void LayOutMuchBySteps();
+
   const RichText& text_;
   LayoutDevice device_;
   RichTextPictures pictures_;

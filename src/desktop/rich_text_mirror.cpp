@@ -64,8 +64,6 @@ RichTextMirror::RichTextMirror(RichTextBox& box, QGraphicsTextItem& sheet, Runti
   sheet_.setDocument(&layout_.document());
   connect(&layout_.document(), &QTextDocument::contentsChange, this, &RichTextMirror::TakeEdit);
   layout_.HangBlanks();
-  whole_ = true;
-  ShowBox();
   box.Observe(this);
 }
 
@@ -83,7 +81,8 @@ void RichTextMirror::Do(const std::function<void(RichText&)>& deed) {
   runtime_.Dispatch([&] { deed(*box_); });
   whole_ = false;
   ShowBox();
-  sheet_.setTextCursor(sheet_.textCursor());  // scrolls to it
+  // Scrolls to the caret, but not along all that is selected.
+  if (QTextCursor caret = sheet_.textCursor(); !caret.hasSelection()) sheet_.setTextCursor(caret);
   if (box_ != nullptr) ShowCaretFormat();
 }
 
@@ -112,6 +111,7 @@ void RichTextMirror::Note(int position, int end) {
 }
 
 void RichTextMirror::ShowBoxSoon() {
+  if (!begun_) return;
   if (!runtime_.InHandler() && !taking_) {
     ShowBox();
   } else if (!show_soon_) {
@@ -123,10 +123,11 @@ void RichTextMirror::ShowBoxSoon() {
 void RichTextMirror::ShowBox() {
   if (box_ == nullptr || showing_ || taking_) return;
   show_soon_ = false;
+  begun_ = true;
   const QScopedValueRollback<bool> guard(showing_, true);
   const auto difference = std::exchange(difference_, std::nullopt);
   if (std::exchange(whole_, false)) {
-    layout_.Load(0, box_->Length());
+    LoadWhole();
     positions_ = {};
     positions_.Replace(0, 0, box_->Length(),
                        [this](int i) { return IsWide(box_->CharacterAt(i)); });
@@ -136,6 +137,13 @@ void RichTextMirror::ShowBox() {
                 SheetLength() - difference->behind);
   }
   ShowCaret();
+}
+
+void RichTextMirror::LoadWhole() {
+  // The text would push the caret on to its end, and to draw it there have all laid out.
+  sheet_.setTextCursor({});
+  layout_.Load(0, box_->Length());
+  sheet_.setTextCursor(QTextCursor(&layout_.document()));
 }
 
 void RichTextMirror::ShowStretch(int start, int box_end, int sheet_end) {

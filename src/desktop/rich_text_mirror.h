@@ -16,7 +16,8 @@ class QGraphicsTextItem;
 
 namespace brindlepage {
 
-// Keeps a rich text box and the item that shows it alike, caret and selection included.
+// Keeps a rich text box and the item that shows it alike, caret and selection included, from the
+// first time on that the box is shown.
 //
 // The box is the truth. Either side tells of a stretch that changed; the stretch is compared and
 // only what differs is taken over, so that an echo finds nothing to do. What the teacher does
@@ -39,7 +40,7 @@ class RichTextMirror : public QObject, private RichTextObserver {
   const RichTextLayout& layout() const { return layout_; }
   const RichTextPositions& positions() const { return positions_; }
 
-  // Shows at once what a handler that still runs has done to the box.
+  // Shows the box for the first time, or at once what a handler that still runs has done to it.
   void ShowBox();
   // Takes the sheet's caret and selection over into the box.
   void TakeCaret();
@@ -69,6 +70,7 @@ class RichTextMirror : public QObject, private RichTextObserver {
   void CaretMoved() override;
   void Note(int position, int end);
   void ShowBoxSoon();
+  void LoadWhole();
   void ShowStretch(int start, int box_end, int sheet_end);
   void ShowCaret();
   void ShowCaretFormat();
@@ -89,7 +91,8 @@ class RichTextMirror : public QObject, private RichTextObserver {
   RichTextPositions positions_;
 
   std::optional<Difference> difference_;
-  bool whole_ = false;  // the box has a new document
+  bool begun_ = false;
+  bool whole_ = true;  // the box has a new document
   bool show_soon_ = false;
   bool showing_ = false;
   bool taking_ = false;

@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionGraphicsItem>
@@ -19,6 +20,7 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "desktop/rich_text_clipboard.h"
 #include "desktop/rich_text_find_bar.h"
@@ -45,7 +47,8 @@ constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwi
 }  // namespace
 
 // The text on the scene. Before an event the box's changes are shown, after it the caret is taken
-// over, so that nothing else has to watch for it.
+// over, so that nothing else has to watch for it. An event within another, as when what the caret
+// scrolls passes under the mouse, leaves both to that one.
 class RichTextView::Sheet : public QGraphicsTextItem {
  public:
   explicit Sheet(RichTextView& view) : view_(view) {}
@@ -58,7 +61,9 @@ class RichTextView::Sheet : public QGraphicsTextItem {
 
  protected:
   bool sceneEvent(QEvent* event) override {
+    if (view_.moving_caret_) return QGraphicsTextItem::sceneEvent(event);
     view_.mirror_.ShowBox();
+    const QScopedValueRollback<bool> guard(view_.moving_caret_, true);
     const bool taken = QGraphicsTextItem::sceneEvent(event);
     view_.mirror_.TakeCaret();
     return taken;
@@ -104,7 +109,7 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   scene_.setFocusItem(sheet_);
 
   connect(document().documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
-          &RichTextView::PlaceSheet);
+          &RichTextView::LaidOut);
   connect(&mirror_, &RichTextMirror::StartShown, this, &RichTextView::ScrollToTop);
   connect(find_bar_, &RichTextFindBar::Find, this, &RichTextView::FindNext);
   connect(find_bar_, &RichTextFindBar::FindAgain, this, [this] {
@@ -114,8 +119,7 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   });
   connect(find_bar_, &RichTextFindBar::Closed, this, &RichTextView::CloseFindBar);
 
-  PlaceSheet();
-  ScrollToTop();
+  LaidOut(document().size());
 }
 
 RichTextView::~RichTextView() { Leave(); }
@@ -171,11 +175,15 @@ void RichTextView::Delete() {
   });
 }
 
+// What the teacher looks at stays in the window.
 void RichTextView::SelectAll() {
   Mirror();
+  const QPoint shown(horizontalScrollBar()->value(), verticalScrollBar()->value());
   QTextCursor cursor = Caret();
   cursor.select(QTextCursor::Document);
   MoveCaret(cursor);
+  horizontalScrollBar()->setValue(shown.x());
+  verticalScrollBar()->setValue(shown.y());
 }
 
 void RichTextView::Insert(const QMimeData& mime) {
@@ -247,6 +255,7 @@ bool RichTextView::TypeText(QKeyEvent* event) {
 }
 
 void RichTextView::MoveCaret(const QTextCursor& cursor) {
+  const QScopedValueRollback<bool> guard(moving_caret_, true);
   sheet_->setTextCursor(cursor);
   ensureVisible(CaretRect(cursor), 0, kGround);
   mirror_.TakeCaret();
@@ -466,9 +475,10 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
 
 QRectF RichTextView::CaretRect(const QTextCursor& cursor) const {
   const QTextBlock block = cursor.block();
+  // Lays it out if that has not come to it yet.
+  const QPointF origin = document().documentLayout()->blockBoundingRect(block).topLeft();
   const QTextLayout& layout = *block.layout();
   const QTextLine line = layout.lineForTextPosition(cursor.positionInBlock());
-  const QPointF origin = document().documentLayout()->blockBoundingRect(block).topLeft();
   if (!line.isValid()) return {origin, QSizeF(kCaretWidth, kCaretHeight)};
   const QPointF place(line.cursorToX(cursor.positionInBlock()), line.y());
   return {origin + place, QSizeF(kCaretWidth, line.height())};
@@ -489,6 +499,16 @@ void RichTextView::Zoom(int percent) {
   PlaceSheet();
 }
 
+// The rest of a long document may still have to be laid out, but never what is in the window.
+void RichTextView::LaidOut(const QSizeF& so_far) {
+  const double bottom = mapToScene(viewport()->rect()).boundingRect().bottom();
+  const int shown_end = document().documentLayout()->hitTest(
+      QPointF(RichTextLayout::kColumnWidth, bottom), Qt::FuzzyHit);
+  const bool ends_there = shown_end >= document().characterCount() - 1;
+  text_height_ = ends_there ? document().size().height() : std::max(so_far.height(), bottom);
+  PlaceSheet();
+}
+
 // The sheet is as high as its text, or as the window when that is more; its margins give way in a
 // narrow window before the column has to be scrolled.
 void RichTextView::PlaceSheet() {
@@ -499,12 +519,13 @@ void RichTextView::PlaceSheet() {
   const double height = (this->height() - 1) / scale - 2 * ground;
   const double margin =
       std::clamp((width - RichTextLayout::kColumnWidth) / 2, kLeastMargin, kPaperMargin);
-  const double text_height = document().size().height();
-  paper_ = QRectF(-margin, -kPaperMargin, RichTextLayout::kColumnWidth + 2 * margin,
-                  std::max(text_height + 2 * kPaperMargin, std::floor(height)));
+  const QRectF paper(-margin, -kPaperMargin, RichTextLayout::kColumnWidth + 2 * margin,
+                     std::max(text_height_ + 2 * kPaperMargin, std::floor(height)));
+  const QRectF before = std::exchange(paper_, paper);
   setTransform(QTransform::fromScale(scale, scale));
   setSceneRect(paper_.adjusted(-ground, -ground, ground, ground));
-  viewport()->update();
+  const QRectF window = mapToScene(viewport()->rect()).boundingRect();
+  if (paper.intersected(window) != before.intersected(window)) viewport()->update();
 }
 
 void RichTextView::ScrollToTop() { verticalScrollBar()->setValue(verticalScrollBar()->minimum()); }
@@ -513,6 +534,12 @@ void RichTextView::PlaceFindBar() {
   find_bar_->adjustSize();
   find_bar_->move(viewport()->geometry().right() - find_bar_->width() - kGround,
                   viewport()->geometry().top() + kGround);
+}
+
+// What nobody has seen yet, a hidden key for one, is loaded only now.
+void RichTextView::showEvent(QShowEvent* event) {
+  Mirror();
+  QGraphicsView::showEvent(event);
 }
 
 void RichTextView::resizeEvent(QResizeEvent* event) {

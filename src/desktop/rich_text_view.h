@@ -63,6 +63,7 @@ class RichTextView : public QGraphicsView {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void drawBackground(QPainter* painter, const QRectF& exposed) override;
 
@@ -93,6 +94,7 @@ class RichTextView : public QGraphicsView {
   QRectF CaretRect(const QTextCursor& cursor) const;  // dots, in the column
   int PositionAt(const QPointF& point) const;         // of the box
   double PixelsPerDot() const;
+  void LaidOut(const QSizeF& so_far);  // dots
   void PlaceSheet();
   void ScrollToTop();
   void PlaceFindBar();
@@ -104,8 +106,10 @@ class RichTextView : public QGraphicsView {
   QGraphicsScene scene_;
   RichTextFindBar* find_bar_;
 
+  bool moving_caret_ = false;  // the sheet's is ahead of the box's until it is taken over
   int zoom_ = 100;
   int wheel_turned_ = 0;
+  double text_height_ = 0;  // dots
   QRectF paper_;
   QBasicTimer drag_timer_;
   QPoint drag_point_;

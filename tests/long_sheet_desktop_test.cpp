@@ -1,0 +1,134 @@
+// A document of many pages on an open sheet: it is loaded when it is first seen and laid out as far
+// as it is seen, and the rest by and by.
+
+#include <QAbstractTextDocumentLayout>
+#include <QScrollBar>
+#include <QTextLayout>
+
+#include "tests/open_sheet.h"
+
+namespace brindlepage {
+namespace {
+
+class ALongSheet : public AnOpenSheet {
+ protected:
+  static constexpr int kLines = 800;
+
+  ALongSheet() {
+    Compose([](RichTextBox& box) {
+      std::string lines;
+      for (int i = 1; i <= kLines; ++i) {
+        lines += "line " + std::to_string(i) + " of a sheet that goes on and on\n";
+      }
+      box.SelText(lines);
+      box.SelStart(0);
+    });
+  }
+
+  QScrollBar& Bar() { return *view->verticalScrollBar(); }
+  bool LastLineIsLaidOut() {
+    return view->document().lastBlock().previous().layout()->lineCount() > 0;
+  }
+  void AwaitLayout() {
+    ASSERT_TRUE(QTest::qWaitFor([this] { return LastLineIsLaidOut(); }));
+    QApplication::processEvents();
+  }
+  // The number of the line at the top of the window.
+  int TopLine() {
+    const QPointF top = view->mapToScene(0, 0);
+    const int position = view->document().documentLayout()->hitTest(top, Qt::FuzzyHit);
+    return view->document().findBlock(position).blockNumber() + 1;
+  }
+};
+
+TEST_F(AnOpenSheet, AHiddenKeyIsLoadedWhenItIsFirstShown) {
+  RichTextView key(form().KeyBox, runtime);
+  runtime.Dispatch([this] {
+    form().KeyBox.Text("");
+    form().KeyBox.SelText("1. Mars\n");
+  });
+  QApplication::processEvents();
+  EXPECT_TRUE(key.document().isEmpty());
+  runtime.Dispatch([this] { form().KeyBox.SelText("2. Venus"); });
+  key.show();
+  EXPECT_EQ(key.document().toPlainText(), "1. Mars\n2. Venus");
+  key.hide();
+  runtime.Dispatch([this] { form().KeyBox.SelText("!"); });
+  QApplication::processEvents();
+  EXPECT_EQ(key.document().toPlainText(), "1. Mars\n2. Venus!");
+}
+
+TEST_F(ALongSheet, IsLaidOutAsFarAsItIsSeenAndToItsEndByAndBy) {
+  EXPECT_FALSE(LastLineIsLaidOut());
+  EXPECT_EQ(TopLine(), 1);
+  const int so_far = Bar().maximum();
+  AwaitLayout();
+  EXPECT_GT(Bar().maximum(), 10 * Bar().pageStep());
+  EXPECT_GT(Bar().maximum(), so_far);
+  EXPECT_EQ(Bar().value(), Bar().minimum());
+  ExpectBothEqual();
+}
+
+TEST_F(ALongSheet, IsScrolledToItsEndAtOnceIfTheCaretGoesThere) {
+  Key(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_TRUE(LastLineIsLaidOut());
+  EXPECT_EQ(view->Caret().blockNumber(), kLines);
+  AwaitLayout();
+  Type("x");
+  QApplication::processEvents();
+  EXPECT_GT(TopLine(), kLines - 100);
+}
+
+TEST_F(ALongSheet, StaysWhereItIsWhileAllOfItIsSelectedAndFormatted) {
+  AwaitLayout();
+  for (const int place : {Bar().minimum(), Bar().maximum() / 2, Bar().maximum()}) {
+    Bar().setValue(place);
+    Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Bar().value(), place);
+    Key(Qt::Key_I, Qt::ControlModifier);
+    EXPECT_EQ(Bar().value(), place);
+    EXPECT_TRUE(box().SelItalic().has_value());
+    AwaitLayout();
+    EXPECT_EQ(Bar().value(), place);
+    ExpectBothEqual();
+  }
+}
+
+TEST_F(ALongSheet, KeepsTheCaretThatScrollsItUnderTheMouse) {
+  AwaitLayout();
+  QTest::mouseMove(view->viewport(), QPoint(300, 300));
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(300, 300));
+  const int clicked = box().SelStart();
+  EXPECT_GT(clicked, 0);
+  const int end = box().Length();
+
+  Key(Qt::Key_End, Qt::ControlModifier);
+  EXPECT_EQ(view->Caret().position(), end);
+  EXPECT_EQ(box().SelStart(), end);
+  Key(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(box().SelStart(), 0);
+  Key(Qt::Key_PageDown);
+  Key(Qt::Key_PageDown);
+  EXPECT_GT(box().SelStart(), clicked);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(box().SelStart(), 0);
+  EXPECT_EQ(box().SelLength(), end);
+  ExpectBothEqual();
+}
+
+TEST_F(ALongSheet, IsNoLongerScrolledOnceAllOfItIsDeleted) {
+  AwaitLayout();
+  Bar().setValue(Bar().maximum());
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_Delete);
+  QApplication::processEvents();
+  EXPECT_EQ(BoxText(), "");
+  EXPECT_EQ(Bar().maximum(), 0);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  AwaitLayout();
+  EXPECT_EQ(view->document().blockCount(), kLines + 1);
+  ExpectBothEqual();
+}
+
+}  // namespace
+}  // namespace brindlepage
