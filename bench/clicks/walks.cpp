@@ -71,6 +71,7 @@ void MarkAll(Hand& hand) {
 
 // What a teacher does with a finished sheet.
 void WorkOn(Hand& hand, const std::string& form, bool has_key) {
+  hand.Wait(600);  // nobody reads a sheet faster, and its key is loaded
   hand.Type(form, "QuizBox", "ab");
   hand.Press(Qt::Key_Return, {}, "line end");
   hand.Press(Qt::Key_End, Qt::ControlModifier, "to the end");

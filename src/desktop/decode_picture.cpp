@@ -8,6 +8,7 @@
 #include <QtEndian>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <string>
 
 #include "toolkit/picture.h"
@@ -100,6 +101,9 @@ bool HasWholeRecords(std::string_view emf) {
 }
 
 QByteArray SvgOf(std::string_view emf) {
+  // The converter does not say that it can be used by several threads.
+  static std::mutex one_at_a_time;
+  const std::lock_guard lock(one_at_a_time);
   // The converter looks a little behind records that are shorter than they should be.
   constexpr std::size_t kRoom = 65536;
   std::string contents(emf);

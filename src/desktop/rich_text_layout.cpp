@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
+#include <QThreadPool>
 #include <algorithm>
 #include <cmath>
 
@@ -102,6 +103,13 @@ class BlankTails : public QSyntaxHighlighter {
   static constexpr qsizetype kLong = 2000;
 };
 
+// A picture that has far more dots than it is drawn with; nothing if it has not. Fine lines would
+// get lost if dots were left out.
+QImage Reduced(const QImage& whole, QSize dots) {
+  if (dots.isEmpty() || whole.width() <= 2 * dots.width()) return {};
+  return whole.scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 // What is shown of a picture that can't be read.
 void DrawPlaceholder(QPainter& painter, const QRectF& rect) {
   painter.fillRect(rect, QColor(0xF3, 0xF1, 0xEC));
@@ -131,7 +139,19 @@ int LayoutDevice::metric(PaintDeviceMetric metric) const {
 // --- Pictures
 
 void RichTextPictures::Add(std::uint32_t format_id, std::shared_ptr<const RichPicture> picture) {
-  shown_.try_emplace(format_id, Shown{std::move(picture), std::nullopt});
+  if (shown_.count(format_id)) return;
+  const auto decoded = std::make_shared<std::promise<Images>>();
+  shown_.emplace(format_id, Shown{picture, decoded->get_future()});
+  // The application waits for these threads before it goes.
+  QThreadPool::globalInstance()->start(
+      [picture, decoded] { decoded->set_value(Decode(*picture)); });
+}
+
+RichTextPictures::Images RichTextPictures::Decode(const RichPicture& picture) {
+  Images images{DecodePicture(picture.bytes), {}};
+  constexpr int kTwipsPerPixel = 15;  // of most screens
+  images.reduced = Reduced(images.whole, QSize(picture.width, picture.height) / kTwipsPerPixel);
+  return images;
 }
 
 QSizeF RichTextPictures::intrinsicSize(QTextDocument*, int, const QTextFormat& format) {
@@ -148,21 +168,17 @@ void RichTextPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDo
                                   const QTextFormat& format) {
   const auto entry = shown_.find(static_cast<std::uint32_t>(format.intProperty(kFormatId)));
   if (entry == shown_.end()) return;
-  std::optional<QImage>& image = entry->second.image;
-  if (!image) image = DecodePicture(entry->second.picture->bytes);
+  Shown& shown = entry->second;
+  if (shown.coming.valid()) shown.images = shown.coming.get();
+  auto& [whole, reduced] = shown.images;
   painter->save();
   painter->setRenderHint(QPainter::SmoothPixmapTransform);
-  if (image->isNull()) {
+  if (whole.isNull()) {
     DrawPlaceholder(*painter, rect);
   } else {
     const QSize dots = painter->deviceTransform().mapRect(rect).size().toSize();
-    const bool crowded = 2 * dots.width() < image->width() && !dots.isEmpty();
-    QImage& reduced = entry->second.reduced;
-    // Fine lines would get lost if dots were left out.
-    if (crowded && reduced.size() != dots) {
-      reduced = image->scaled(dots, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    }
-    painter->drawImage(rect, crowded ? reduced : *image);
+    if (reduced.size() != dots) reduced = Reduced(whole, dots);
+    painter->drawImage(rect, reduced.isNull() ? whole : reduced);
   }
   painter->restore();
 }

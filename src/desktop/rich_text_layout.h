@@ -9,6 +9,7 @@
 #include <QTextDocument>
 #include <QTextObjectInterface>
 #include <cstdint>
+#include <future>
 #include <map>
 #include <memory>
 #include <optional>
@@ -28,7 +29,8 @@ class LayoutDevice : public QPaintDevice {
   int metric(PaintDeviceMetric metric) const override;
 };
 
-// The pictures of a document, as Qt asks for them.
+// The pictures of a document, as Qt asks for them. Other threads decode them, from the moment on
+// that they are added.
 class RichTextPictures : public QObject, public QTextObjectInterface {
   Q_OBJECT
   Q_INTERFACES(QTextObjectInterface)
@@ -43,11 +45,16 @@ class RichTextPictures : public QObject, public QTextObjectInterface {
                   const QTextFormat& format) override;
 
  private:
+  struct Images {
+    QImage whole;
+    QImage reduced;  // as it was drawn last on a screen of fewer dots
+  };
   struct Shown {
     std::shared_ptr<const RichPicture> picture;
-    std::optional<QImage> image;  // decoded when first drawn
-    QImage reduced{};             // as it was drawn last on a screen of fewer dots
+    std::future<Images> coming;  // until it is first drawn
+    Images images{};
   };
+  static Images Decode(const RichPicture& picture);
   std::map<std::uint32_t, Shown> shown_;
 };
 

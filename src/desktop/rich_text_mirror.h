@@ -17,7 +17,7 @@ class QGraphicsTextItem;
 namespace brindlepage {
 
 // Keeps a rich text box and the item that shows it alike, caret and selection included, from the
-// first time on that the box is shown.
+// first time on that ShowBox() is called.
 //
 // The box is the truth. Either side tells of a stretch that changed; the stretch is compared and
 // only what differs is taken over, so that an echo finds nothing to do. What the teacher does

@@ -18,6 +18,7 @@
 #include <QTextBlock>
 #include <QTextDocumentFragment>
 #include <QTextLayout>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -34,6 +35,7 @@ constexpr int kSmallestZoom = 30;
 constexpr int kLargestZoom = 400;
 constexpr int kNotch = 120;        // of a mouse wheel
 constexpr int kDragInterval = 40;  // milliseconds
+constexpr int kAtLeisure = 400;    // milliseconds
 
 // Dots of the layout.
 constexpr double kPaperMargin = 0.5 * RichTextLayout::kDotsPerInch;
@@ -120,6 +122,8 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   connect(find_bar_, &RichTextFindBar::Closed, this, &RichTextView::CloseFindBar);
 
   LaidOut(document().size());
+  // A key is ready when it is asked for.
+  QTimer::singleShot(kAtLeisure, this, &RichTextView::Mirror);
 }
 
 RichTextView::~RichTextView() { Leave(); }
@@ -536,7 +540,6 @@ void RichTextView::PlaceFindBar() {
                   viewport()->geometry().top() + kGround);
 }
 
-// What nobody has seen yet, a hidden key for one, is loaded only now.
 void RichTextView::showEvent(QShowEvent* event) {
   Mirror();
   QGraphicsView::showEvent(event);
