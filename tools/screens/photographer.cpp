@@ -11,7 +11,6 @@
 
 #include "desktop/text.h"
 #include "tools/screens/page_picture.h"
-#include "tools/screens/small_png.h"
 
 namespace brindlepage::screens {
 
@@ -22,7 +21,6 @@ constexpr int kSettleTime = 100;
 constexpr int kPatience = 120'000;
 constexpr int kBoxWatch = 30;
 
-constexpr int kColours = 160;
 constexpr int kAroundPanel = 26;  // pixels
 
 QRect RectIn(const QWidget& window, const QWidget& widget) {
@@ -114,9 +112,7 @@ void Photographer::Save(const QString& name, QWidget& window) {
 
 void Photographer::Save(const QString& name, const QImage& image) {
   const QString file = QString("%1/%2.png").arg(folder_, name);
-  const bool saved =
-      album_ == Album::Manual ? SaveSmallPng(image, file, kColours) : image.save(file);
-  if (saved) return;
+  if (image.save(file)) return;
   std::fprintf(stderr, "can't write %s\n", qPrintable(file));
   std::exit(1);
 }
