@@ -86,7 +86,7 @@ TEST_F(ALongSheet, IsScrolledToItsEndAtOnceIfTheCaretGoesThere) {
   EXPECT_GT(TopLine(), kLines - 100);
 }
 
-TEST_F(ALongSheet, StaysWhereItIsWhileAllOfItIsSelectedAndFormatted) {
+TEST_F(ALongSheet, StaysWhereItIsWhileAllOfItIsSelectedFormattedAndUndone) {
   AwaitLayout();
   for (const int place : {Bar().minimum(), Bar().maximum() / 2, Bar().maximum()}) {
     Bar().setValue(place);
@@ -94,9 +94,19 @@ TEST_F(ALongSheet, StaysWhereItIsWhileAllOfItIsSelectedAndFormatted) {
     EXPECT_EQ(Bar().value(), place);
     Key(Qt::Key_I, Qt::ControlModifier);
     EXPECT_EQ(Bar().value(), place);
-    EXPECT_TRUE(box().SelItalic().has_value());
+    EXPECT_EQ(box().SelItalic(), true);
     AwaitLayout();
     EXPECT_EQ(Bar().value(), place);
+    ExpectBothEqual();
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box().SelItalic(), false);
+    EXPECT_EQ(Bar().value(), place);
+    EXPECT_EQ(box().SelLength(), box().Length());
+    Key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(box().SelItalic(), true);
+    EXPECT_EQ(Bar().value(), place);
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    AwaitLayout();
     ExpectBothEqual();
   }
 }

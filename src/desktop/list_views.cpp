@@ -85,7 +85,8 @@ class ComboBoxView : public ViewOf<ComboBox> {
  public:
   ComboBoxView(ComboBox& combo_box, const ViewSetting& setting)
       : ViewOf(setting.loop, combo_box, new QComboBox(setting.parent)) {
-    combo().setEditable(true);
+    // Which makes it editable, and unlike setEditable() does not make its list before it is opened.
+    combo().setLineEdit(new QLineEdit(&combo()));
     combo().setInsertPolicy(QComboBox::NoInsert);
     combo().setMaxVisibleItems(18);
     combo().installEventFilter(this);

@@ -90,10 +90,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
-    : QGraphicsView(parent),
-      sheet_(new Sheet(*this)),
-      mirror_(box, *sheet_, runtime),
-      find_bar_(new RichTextFindBar(this)) {
+    : QGraphicsView(parent), sheet_(new Sheet(*this)), mirror_(box, *sheet_, runtime) {
   setObjectName(QString::fromStdString(box.Name()));
   setFrameShape(QFrame::NoFrame);
   setAlignment(Qt::AlignHCenter | Qt::AlignTop);
@@ -113,14 +110,6 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   connect(document().documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
           &RichTextView::LaidOut);
   connect(&mirror_, &RichTextMirror::StartShown, this, &RichTextView::ScrollToTop);
-  connect(find_bar_, &RichTextFindBar::Find, this, &RichTextView::FindNext);
-  connect(find_bar_, &RichTextFindBar::FindAgain, this, [this] {
-    QTextCursor from = Caret();
-    from.setPosition(from.selectionStart());
-    FindFrom(from, false);
-  });
-  connect(find_bar_, &RichTextFindBar::Closed, this, &RichTextView::CloseFindBar);
-
   LaidOut(document().size());
   // A key is ready when it is asked for.
   QTimer::singleShot(kAtLeisure, this, &RichTextView::Mirror);
@@ -140,18 +129,17 @@ QTextCursor RichTextView::Caret() const { return sheet_->textCursor(); }
 
 // --- The teacher's commands
 
-void RichTextView::Undo() {
-  Mirror();
-  QTextCursor cursor = Caret();
-  mirror_.layout().document().undo(&cursor);
-  MoveCaret(cursor);
-}
+void RichTextView::Undo() { GoThroughChanges(&QTextDocument::undo); }
 
-void RichTextView::Redo() {
+void RichTextView::Redo() { GoThroughChanges(&QTextDocument::redo); }
+
+// The caret goes where text was changed; where only its format was, the selection stays.
+void RichTextView::GoThroughChanges(void (QTextDocument::*step)(QTextCursor*)) {
   Mirror();
-  QTextCursor cursor = Caret();
-  mirror_.layout().document().redo(&cursor);
-  MoveCaret(cursor);
+  const int length = document().characterCount();
+  QTextCursor changed = Caret();
+  (mirror_.layout().document().*step)(&changed);
+  if (document().characterCount() != length) MoveCaret(changed);
 }
 
 void RichTextView::Cut() {
@@ -280,7 +268,19 @@ void RichTextView::MovePage(bool up, bool select) {
 
 // --- Finding
 
+void RichTextView::MakeFindBar() {
+  find_bar_ = new RichTextFindBar(this);
+  connect(find_bar_, &RichTextFindBar::Find, this, &RichTextView::FindNext);
+  connect(find_bar_, &RichTextFindBar::FindAgain, this, [this] {
+    QTextCursor from = Caret();
+    from.setPosition(from.selectionStart());
+    FindFrom(from, false);
+  });
+  connect(find_bar_, &RichTextFindBar::Closed, this, &RichTextView::CloseFindBar);
+}
+
 void RichTextView::OpenFindBar() {
+  if (find_bar_ == nullptr) MakeFindBar();
   const QString selected = Caret().selectedText();
   const bool on_one_line = !selected.contains(QChar::ParagraphSeparator);
   PlaceFindBar();
@@ -295,6 +295,7 @@ void RichTextView::CloseFindBar() {
 void RichTextView::FindNext(bool backward) { FindFrom(Caret(), backward); }
 
 void RichTextView::FindFrom(QTextCursor from, bool backward) {
+  if (find_bar_ == nullptr) return;
   Mirror();
   const QString text = find_bar_->Text();
   if (text.isEmpty()) return find_bar_->ShowFound(true);
@@ -363,7 +364,7 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   const bool select = event->modifiers().testFlag(Qt::ShiftModifier);
   if (command != nullptr) {
     (this->*command)();
-  } else if (event->key() == Qt::Key_Escape && find_bar_->isVisible()) {
+  } else if (event->key() == Qt::Key_Escape && find_bar_ != nullptr && find_bar_->isVisible()) {
     CloseFindBar();
   } else if (event->key() == Qt::Key_Escape) {
     event->ignore();
@@ -535,6 +536,7 @@ void RichTextView::PlaceSheet() {
 void RichTextView::ScrollToTop() { verticalScrollBar()->setValue(verticalScrollBar()->minimum()); }
 
 void RichTextView::PlaceFindBar() {
+  if (find_bar_ == nullptr) return;
   find_bar_->adjustSize();
   find_bar_->move(viewport()->geometry().right() - find_bar_->width() - kGround,
                   viewport()->geometry().top() + kGround);

@@ -74,6 +74,7 @@ class RichTextView : public QGraphicsView {
   using Command = void (RichTextView::*)();
   static Command CommandOf(const QKeyEvent& event);
   bool TypeText(QKeyEvent* event);
+  void GoThroughChanges(void (QTextDocument::*step)(QTextCursor*));
   void FindForward() { FindNext(false); }
   void FindBackward() { FindNext(true); }
   void ZoomIn() { Zoom(zoom_ + 10); }
@@ -89,6 +90,7 @@ class RichTextView : public QGraphicsView {
   void MovePage(bool up, bool select);
   void MoveCaret(const QTextCursor& cursor);
   void FindFrom(QTextCursor from, bool backward);
+  void MakeFindBar();
   void CloseFindBar();
 
   QRectF CaretRect(const QTextCursor& cursor) const;  // dots, in the column
@@ -104,7 +106,7 @@ class RichTextView : public QGraphicsView {
   Sheet* sheet_;  // the scene's
   RichTextMirror mirror_;
   QGraphicsScene scene_;
-  RichTextFindBar* find_bar_;
+  RichTextFindBar* find_bar_ = nullptr;  // made when it is first opened
 
   bool moving_caret_ = false;  // the sheet's is ahead of the box's until it is taken over
   int zoom_ = 100;
