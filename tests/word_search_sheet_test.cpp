@@ -8,30 +8,11 @@
 #include <vector>
 
 #include "tests/given_draws.h"
+#include "tests/sheet_runs.h"
 #include "wordsearch/puzzle_builder.h"
 
 namespace brindlepage {
 namespace {
-
-// A document as its runs: "font size style alignment|text", bytes below 128 alone.
-std::vector<std::string> RunsOf(const RichText& box) {
-  std::vector<std::string> runs;
-  for (const auto& paragraph : box.Paragraphs()) {
-    for (const auto& run : box.Runs(paragraph)) {
-      const CharFormat& format = *run.format;
-      std::string line = format.font + " " + std::to_string(format.size) + " ";
-      line += format.bold ? 'b' : '-';
-      line += format.italic ? 'i' : '-';
-      line += format.underline ? 'u' : '-';
-      line += std::string(" ") + "lrc"[static_cast<int>(paragraph.alignment)] + "|";
-      for (int i = run.start; i < run.start + run.length; ++i) {
-        line += static_cast<char>(box.CharacterAt(i));
-      }
-      runs.push_back(line);
-    }
-  }
-  return runs;
-}
 
 std::vector<std::string> LinesOf(const RichText& box) {
   std::vector<std::string> lines{""};
@@ -83,7 +64,7 @@ class WordSearchSheetTest : public ::testing::Test {
 
 TEST_F(WordSearchSheetTest, TheTitleAloneIsInTimesNewRoman) {
   word_search::WriteHeading(box, "Planets Word Search");
-  EXPECT_EQ(RunsOf(box),
+  EXPECT_EQ(Runs(box),
             (std::vector<std::string>{
                 "Courier New 200 b-- c|\n",
                 "Courier New 200 b-- c|Name_____________________________     "
@@ -101,7 +82,7 @@ TEST_F(WordSearchSheetTest, TheTitleAloneIsInTimesNewRoman) {
 
 TEST_F(WordSearchSheetTest, AnEmptiedHeadingGivesAnEmptyTitleLine) {
   word_search::WriteHeading(box, "");
-  EXPECT_EQ(RunsOf(box)[3], "Times New Roman 360 b-- c|\n");
+  EXPECT_EQ(Runs(box)[3], "Times New Roman 360 b-- c|\n");
 }
 
 // --- Rows
@@ -113,11 +94,11 @@ TEST_F(WordSearchSheetTest, ARowHasABlankBeforeEachLetterAndNoneAtItsEnd) {
   draws.Letters("Q");
   draws.Letters("MNOP");
   word_search::WritePuzzleRows(box, shared, grid, draws);
-  EXPECT_EQ(RunsOf(box), (std::vector<std::string>{
-                             "Courier New 240 --- c| A B Y Z\n",
-                             "Courier New 240 --- c| C A T Q\n",
-                             "Courier New 240 --- c| M N O P\n",
-                         }));
+  EXPECT_EQ(Runs(box), (std::vector<std::string>{
+                           "Courier New 240 --- c| A B Y Z\n",
+                           "Courier New 240 --- c| C A T Q\n",
+                           "Courier New 240 --- c| M N O P\n",
+                       }));
   // Anew for each row.
   EXPECT_EQ(draws.Reseeds(), (std::vector<std::size_t>{0, 4, 5}));
   EXPECT_EQ(draws.Left(), 0U);
@@ -140,7 +121,7 @@ TEST_F(WordSearchSheetTest, AKeptBlankIsAGapOnTheSheetAndABoldBlankInTheKey) {
   word_search::WritePuzzleRows(box, shared, grid, draws);
   word_search::MakePuzzleKey(key, shared, grid);
   EXPECT_EQ(LinesOf(box)[0], " A   B Y Z");
-  const auto runs = RunsOf(key);
+  const auto runs = Runs(key);
   EXPECT_EQ(runs[runs.size() - 2], "Courier New 240 b-- c| a   b");
   EXPECT_EQ(runs.back(), "Courier New 240 --- c| * *\n");
 }
@@ -175,19 +156,19 @@ TEST_F(WordSearchSheetTest, TheKeyShowsTheWordsInBoldBetweenStars) {
   grid.Write("Cat", {1, 2, Direction::Across});
   grid.Write("at", {4, 1, Direction::Down});
   word_search::MakePuzzleKey(key, shared, grid);
-  EXPECT_EQ(RunsOf(key), (std::vector<std::string>{
-                             "Courier New 240 --- c|\n",
-                             "Courier New 240 --- c|\n",
-                             "Courier New 240 --- c|Pets\n",
-                             "Courier New 240 --- c|Answer Key\n",
-                             "Courier New 240 --- c|\n",
-                             "Courier New 240 --- c| * * *",
-                             "Courier New 240 b-- c| a",
-                             "Courier New 240 --- c|\n",
-                             "Courier New 240 b-- c| C a t t",
-                             "Courier New 240 --- c|\n",
-                             "Courier New 240 --- c| * * * *\n",
-                         }));
+  EXPECT_EQ(Runs(key), (std::vector<std::string>{
+                           "Courier New 240 --- c|\n",
+                           "Courier New 240 --- c|\n",
+                           "Courier New 240 --- c|Pets\n",
+                           "Courier New 240 --- c|Answer Key\n",
+                           "Courier New 240 --- c|\n",
+                           "Courier New 240 --- c| * * *",
+                           "Courier New 240 b-- c| a",
+                           "Courier New 240 --- c|\n",
+                           "Courier New 240 b-- c| C a t t",
+                           "Courier New 240 --- c|\n",
+                           "Courier New 240 --- c| * * * *\n",
+                       }));
 }
 
 // --- Word bank
@@ -196,12 +177,12 @@ TEST_F(WordSearchSheetTest, TheWordBankHeadingFillsItsLineInBoldAndUnderlined) {
   UseWords({"lava"});
   shared.WordBankKind = 2;
   word_search::MakeWordBank(box, shared);
-  EXPECT_EQ(RunsOf(box), (std::vector<std::string>{
-                             "Courier New 200 b-u l|\n",
-                             "Courier New 200 b-u l|Word Bank:" + std::string(80, '_') + "\n",
-                             "Courier New 200 --- l| 1)  meaning of lava\n",
-                             "Courier New 200 --- l|" + rule,
-                         }));
+  EXPECT_EQ(Runs(box), (std::vector<std::string>{
+                           "Courier New 200 b-u l|\n",
+                           "Courier New 200 b-u l|Word Bank:" + std::string(80, '_') + "\n",
+                           "Courier New 200 --- l| 1)  meaning of lava\n",
+                           "Courier New 200 --- l|" + rule,
+                       }));
 }
 
 TEST_F(WordSearchSheetTest, MeaningsAreNumberedInTheOrderOfTheWords) {
@@ -263,7 +244,7 @@ TEST_F(WordSearchSheetTest, TheWordsAndTheRuleArePlainAndOnTheLeft) {
   UseWords({"aa", "bb", "cc", "dd"});
   shared.WordBankKind = 1;
   word_search::MakeWordBank(box, shared);
-  const auto runs = RunsOf(box);
+  const auto runs = Runs(box);
   ASSERT_EQ(runs.size(), 4U);
   EXPECT_EQ(runs[2].substr(0, 22), "Courier New 200 --- l|");
   EXPECT_EQ(runs[3].substr(0, 23), "Courier New 200 --- l|_");

@@ -2,15 +2,17 @@
 
 #include <string>
 
+#include "core/marked_words.h"
 #include "core/shared_state.h"
 #include "toolkit/random_source.h"
 
 // What the generators of all quizzes draw.
 namespace brindlepage {
 
-// The number of a word that is still marked. The source is reseeded first; then words of the whole
-// list are drawn until one is marked, so with no word marked it never returns.
-int PickQuestionWord(const SharedState& shared, RandomSource& random);
+// The start of every question: the number of a word that is still marked.
+inline int PickQuestionWord(const SharedState& shared, RandomSource& random) {
+  return PickMarkedWord(shared, random);
+}
 
 // The four choices of a question, used from element 1. A generator keeps them from question to
 // question.
