@@ -5,7 +5,8 @@ set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ cmake ninja-build qt6-base-dev qt6-svg-dev libemf2svg-dev libgl-dev fonts-liberation
+tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libqt6svg6 \
+  libemf2svg-dev libgl-dev fonts-liberation
 
 echo "Building in $here/build/release ..."
 [ -f build/release/build.ninja ] || cmake --preset release

@@ -4,8 +4,8 @@ set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ clang cmake ninja-build qt6-base-dev qt6-svg-dev libemf2svg-dev \
-  libgl-dev libgtest-dev python3 fonts-liberation poppler-utils xvfb xauth libreoffice-writer-nogui
+tools/install_packages.sh g++ clang cmake ninja-build qt6-base-dev libqt6svg6 \
+  libemf2svg-dev libgl-dev libgtest-dev python3 fonts-liberation poppler-utils xvfb xauth libreoffice-writer-nogui
 
 echo "Building in $here/build/check ..."
 [ -f build/check/build.ninja ] || cmake --preset check

@@ -5,8 +5,8 @@ set -eu
 here=$(cd "$(dirname "$0")/.." && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ cmake ninja-build qt6-base-dev qt6-svg-dev libemf2svg-dev libgl-dev dpkg-dev file \
-  fonts-liberation xvfb xauth xdotool desktop-file-utils
+tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libqt6svg6 \
+  libemf2svg-dev libgl-dev dpkg-dev file fonts-liberation xvfb xauth xdotool desktop-file-utils
 
 echo "Building in $here/build/package ..."
 [ -f build/package/build.ninja ] || cmake --preset package
@@ -22,6 +22,9 @@ remove() { dpkg --remove brindlepage >/dev/null; }
 trap 'remove || true; rm -rf "$home"' EXIT
 
 apt-get install -y -q --no-install-recommends "$package"
+for needed in libemf2svg1 libqt6svg6; do
+  dpkg-deb --field "$package" Depends | grep -q "$needed" || fail "it comes without $needed"
+done
 desktop-file-validate /usr/share/applications/brindlepage.desktop
 shown=$(fc-match --format '%{family}' "Courrier New")
 [ "$shown" = "Liberation Mono" ] || fail "Courrier New shows as $shown"

@@ -3,8 +3,7 @@
 #include <QBuffer>
 #include <QByteArray>
 #include <QImageReader>
-#include <QPainter>
-#include <QSvgRenderer>
+#include <QLibrary>
 #include <QtEndian>
 #include <cstdlib>
 #include <memory>
@@ -100,7 +99,11 @@ bool HasWholeRecords(std::string_view emf) {
   return false;
 }
 
+// The converter is loaded when the first metafile is, which few sheets have.
 QByteArray SvgOf(std::string_view emf) {
+  static const auto convert =
+      reinterpret_cast<decltype(&emf2svg)>(QLibrary("emf2svg", 1).resolve("emf2svg"));
+  if (convert == nullptr) return {};
   // The converter does not say that it can be used by several threads.
   static std::mutex one_at_a_time;
   const std::lock_guard lock(one_at_a_time);
@@ -113,7 +116,7 @@ QByteArray SvgOf(std::string_view emf) {
   options.emfplus = true;
   char* svg = nullptr;
   std::size_t length = 0;
-  const bool converted = emf2svg(contents.data(), emf.size(), &svg, &length, &options) != 0;
+  const bool converted = convert(contents.data(), emf.size(), &svg, &length, &options) != 0;
   const std::unique_ptr<char, void (*)(void*)> owned(svg, std::free);
   if (!converted || svg == nullptr) return {};
   return {svg, static_cast<qsizetype>(length)};
@@ -121,16 +124,11 @@ QByteArray SvgOf(std::string_view emf) {
 
 QImage DrawEmf(std::string_view emf) {
   if (!HasWholeRecords(emf)) return {};
-  const QByteArray svg = SvgOf(emf);
-  QSvgRenderer drawing;
-  if (svg.isEmpty() || !drawing.load(svg)) return {};
-  const QSize size = drawing.defaultSize().scaled(kDrawnSide, kDrawnSide, Qt::KeepAspectRatio);
-  if (size.isEmpty()) return {};
-  QImage image(size, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  QPainter painter(&image);
-  drawing.render(&painter);
-  return image;
+  QByteArray svg = SvgOf(emf);
+  QBuffer buffer(&svg);
+  QImageReader reader(&buffer, "svg");
+  reader.setScaledSize(reader.size().scaled(kDrawnSide, kDrawnSide, Qt::KeepAspectRatio));
+  return reader.read();
 }
 
 #else
