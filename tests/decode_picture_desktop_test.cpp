@@ -126,10 +126,31 @@ TEST(DecodePicture, NoDamageToAMetafileDoesHarm) {
   }
 }
 
-// A photograph that was taken with the camera on its side.
-std::string Lying(const std::string& jpeg) {
-  const std::string orientation("Exif\0\0MM\0*\0\0\0\10\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0", 32);
+// A photograph that says how the camera was held; 6: on its side.
+std::string Lying(const std::string& jpeg, char way = 6) {
+  std::string orientation("Exif\0\0MM\0*\0\0\0\10\0\1\1\x12\0\3\0\0\0\1\0\6\0\0\0\0\0\0", 32);
+  orientation[25] = way;
   return jpeg.substr(0, 2) + "\xFF\xE1" + std::string("\0\x22", 2) + orientation + jpeg.substr(2);
+}
+
+// Every way in which a photograph may say that it lies, as the library itself turns it.
+TEST(DecodePicture, APhotographIsTurnedAsItSays) {
+  QImage image(64, 32, QImage::Format_RGB32);
+  image.fill(Qt::blue);
+  QPainter(&image).fillRect(0, 0, 32, 16, Qt::red);
+  QByteArray plain;
+  QBuffer buffer(&plain);
+  buffer.open(QIODevice::WriteOnly);
+  ASSERT_TRUE(image.save(&buffer, "JPG", 100));
+  for (int way = 1; way <= 8; ++way) {
+    const std::string bytes = Lying(plain.toStdString(), static_cast<char>(way));
+    const QImage whole = DecodePicture(bytes);
+    const QImage scaled = DecodePicture(bytes, whole.size() / 2, Qt::IgnoreAspectRatio);
+    ASSERT_EQ(scaled.size(), whole.size() / 2) << way;
+    for (const QPoint at : {QPoint(3, 3), QPoint(12, 3), QPoint(3, 12), QPoint(12, 12)}) {
+      EXPECT_EQ(scaled.pixelColor(at).red() > 127, whole.pixelColor(2 * at).red() > 127) << way;
+    }
+  }
 }
 
 TEST(DecodePicture, APictureIsScaledToCoverARoomWhateverItsKind) {
@@ -140,8 +161,10 @@ TEST(DecodePicture, APictureIsScaledToCoverARoomWhateverItsKind) {
       EXPECT_GT(image.pixelColor(image.rect().center()).red(), 240) << format;
       return image.size();
     };
-    EXPECT_EQ(size({50, 50}, Qt::KeepAspectRatioByExpanding), QSize(100, 50)) << format;
-    EXPECT_EQ(size({300, 300}, Qt::KeepAspectRatioByExpanding), QSize(600, 300)) << format;
+    EXPECT_EQ(size({50, 50}, Qt::KeepAspectRatioByExpanding), QSize(50, 50)) << format;
+    EXPECT_EQ(size({300, 301}, Qt::KeepAspectRatioByExpanding), QSize(300, 301)) << format;
+    EXPECT_EQ(size({70, 10}, Qt::KeepAspectRatioByExpanding), QSize(70, 10)) << format;
+    EXPECT_EQ(size({50, 50}, Qt::KeepAspectRatio), QSize(50, 25)) << format;
     EXPECT_EQ(size({50, 50}, Qt::IgnoreAspectRatio), QSize(50, 50)) << format;
   }
   EXPECT_TRUE(DecodePicture("no picture", {50, 50}, Qt::IgnoreAspectRatio).isNull());
@@ -152,7 +175,8 @@ TEST(DecodePicture, APictureIsScaledToCoverARoomWhateverItsKind) {
 TEST(DecodePicture, APhotographTakenOnItsSideStandsUprightInAnySize) {
   const std::string bytes = Lying(Encoded("JPG", {200, 100}));
   EXPECT_EQ(DecodePicture(bytes).size(), QSize(100, 200));
-  EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::KeepAspectRatioByExpanding).size(), QSize(50, 100));
+  EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::KeepAspectRatioByExpanding).size(), QSize(50, 50));
+  EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::IgnoreAspectRatio).size(), QSize(50, 50));
 }
 
 // Red on the left, blue on the right; `mark` makes it another file.

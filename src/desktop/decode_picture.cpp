@@ -2,8 +2,11 @@
 
 #include <QBuffer>
 #include <QByteArray>
+#include <QImageIOHandler>
 #include <QImageReader>
 #include <QLibrary>
+#include <QPluginLoader>
+#include <QTransform>
 #include <QtEndian>
 #include <cstdlib>
 #include <memory>
@@ -41,19 +44,46 @@ QByteArray Unowned(std::string_view bytes) {
   return QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
 }
 
-// A photograph, whose decoder leaves out what the size has no need of.
+// QImageReader would load the decoders of all kinds to ask which of them reads photographs.
+std::unique_ptr<QImageIOHandler> PhotographDecoder(QIODevice& file) {
+  QPluginLoader loader("imageformats/qjpeg");
+  auto* plugin = qobject_cast<QImageIOPlugin*>(loader.instance());
+  if (plugin == nullptr) return nullptr;
+  return std::unique_ptr<QImageIOHandler>(plugin->create(&file, "jpg"));
+}
+
+// What is seen of a picture that covers the room.
+QRect SeenPart(QSize picture, QSize room) {
+  QRect seen({}, picture.boundedTo(room));
+  seen.moveBottomRight(QRect({}, picture).bottomRight());
+  return seen;
+}
+
+// A photograph, whose decoder leaves out what the size has no need of. A null image if there is
+// no such decoder.
 QImage ReadScaled(std::string_view bytes, QSize room, Qt::AspectRatioMode mode) {
   QByteArray contents = Unowned(bytes);
   QBuffer buffer(&contents);
-  QImageReader reader(&buffer, "jpg");
-  reader.setAutoTransform(true);
-  QSize size = reader.size();
-  const bool lies = reader.transformation() & QImageIOHandler::TransformationRotate90;
-  if (lies) size.transpose();
-  size.scale(room, mode);
-  if (lies) size.transpose();
-  reader.setScaledSize(size);
-  return reader.read();
+  buffer.open(QIODevice::ReadOnly);
+  const auto decoder = PhotographDecoder(buffer);
+  if (decoder == nullptr) return {};
+  const QSize whole = decoder->option(QImageIOHandler::Size).toSize();
+  const int turned = decoder->option(QImageIOHandler::ImageTransformation).toInt();
+  const bool lies = turned & QImageIOHandler::TransformationRotate90;
+  QSize size = (lies ? whole.transposed() : whole).scaled(room, mode);
+  if (turned == 0 && mode == Qt::KeepAspectRatioByExpanding) {
+    const QRect seen = SeenPart(whole, room.scaled(whole, Qt::KeepAspectRatio));
+    decoder->setOption(QImageIOHandler::ClipRect, seen);
+    size = room;
+  }
+  decoder->setOption(QImageIOHandler::ScaledSize, lies ? size.transposed() : size);
+  QImage image;
+  if (!decoder->read(&image)) return {};
+  if (turned & QImageIOHandler::TransformationRotate180) {
+    image = image.mirrored(turned & QImageIOHandler::TransformationMirror,
+                           turned & QImageIOHandler::TransformationFlip);
+  }
+  return lies ? image.transformed(QTransform().rotate(90)) : image;
 }
 
 // In front of a bitmap that has none, the file header: where its dots begin.
@@ -148,9 +178,12 @@ QImage DecodePicture(std::string_view bytes) {
 }
 
 QImage DecodePicture(std::string_view bytes, QSize room, Qt::AspectRatioMode mode) {
-  if (PictureFormat(bytes) == "jpg") return ReadScaled(bytes, room, mode);
-  const QImage image = DecodePicture(bytes);
-  return image.isNull() ? image : image.scaled(room, mode, Qt::SmoothTransformation);
+  QImage image;
+  if (PictureFormat(bytes) == "jpg") image = ReadScaled(bytes, room, mode);
+  if (image.isNull()) image = DecodePicture(bytes);
+  if (image.isNull()) return image;
+  image = image.scaled(room, mode, Qt::SmoothTransformation);
+  return image.size() == room ? image : image.copy(SeenPart(image.size(), room));
 }
 
 }  // namespace brindlepage
