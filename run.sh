@@ -5,7 +5,7 @@ set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 cd "$here"
 
-tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libqt6svg6 \
+tools/install_packages.sh g++ cmake ninja-build qt6-base-dev libqt6svg6 libfontconfig-dev \
   libemf2svg-dev libgl-dev fonts-liberation
 
 echo "Building in $here/build/release ..."

@@ -2,9 +2,11 @@
 
 #include "bench/start/first_paint.h"
 #include "desktop/desktop.h"
+#include "desktop/fonts_ahead.h"
 #include "desktop/style.h"
 
 int main(int argc, char** argv) {
+  brindlepage::ReadFontsAhead();
   QApplication application(argc, argv);
   FirstPaint first_paint(application);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -12,6 +12,7 @@
 
 #include "desktop/arranger.h"
 #include "desktop/control_views.h"
+#include "desktop/fonts_ahead.h"
 #include "desktop/picture_view.h"
 #include "desktop/style.h"
 #include "desktop/text.h"
@@ -102,6 +103,7 @@ FormView::FormView(Form& form, Loop& loop, QWidget* parent, QSize size)
   FindBackdrop();
   SyncForm();
   MakeViews();
+  AwaitFonts();
   LayOutPage();
   SetTabOrder();
   SyncControls();
