@@ -49,7 +49,7 @@ void Loop::Act(Control& control, const std::function<void()>& deed) {
 void Loop::TakeStock() {
   if (runtime_->Ended()) {
     timer_.stop();
-    if (told_end_) return;
+    if (told_end_ || Held()) return;
     told_end_ = true;
     emit Ended();
     return;

@@ -40,7 +40,7 @@ class Loop : public QObject {
   // The handler under way is not to be entered anew.
   bool Held() const { return holds_ > 0; }
 
-  // No timer fires while one of these lives.
+  // No timer fires and no end is told while one of these lives.
   class TimersHeld {
    public:
     explicit TimersHeld(Loop& loop) : loop_(loop) { ++loop_.holds_; }

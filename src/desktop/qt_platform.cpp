@@ -234,6 +234,8 @@ std::unique_ptr<PrinterPages> QtPlatform::StartPages() {
 }
 
 void QtPlatform::FatalError(int number, std::string_view text) {
+  // The program has ended already, but its windows stay until this has been read.
+  const Loop::TimersHeld held(loop_);
   PrepareForBox();
   const QString message = QString("Run-time error '%1':\n\n%2").arg(number).arg(ToQString(text));
   AskMessage(kProgramName, message, BoxButtons::Ok, windows_.Front());

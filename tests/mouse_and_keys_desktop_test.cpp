@@ -1,0 +1,57 @@
+// Mouse and keys together, as a teacher has them: what has the keys, and what a second click does.
+
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "scramble_code/code_form.h"
+#include "tests/desktop_fixture.h"
+#include "tests/open_sheet.h"
+
+namespace brindlepage {
+namespace {
+
+class MouseAndKeys : public DesktopTest {
+ protected:
+  void GoToSecretCode() {
+    UseOneList(5);
+    Start();
+    GoToPickWords(5);
+    Click("PickWords", "ChooseRandom");
+    Click("PickWords", "Command2");
+    ASSERT_EQ(Active(), "CodeForm");
+  }
+  CodeForm& Sheet() { return dynamic_cast<CodeForm&>(*Loaded("CodeForm")); }
+  void Type(const char* text) {
+    QTest::keyClicks(QApplication::focusWidget(), text);
+    Settle();
+  }
+  static bool Holds(const RichTextBox& box, std::u32string_view text) {
+    return box.PlainText().find(text) != std::u32string::npos;
+  }
+
+  // A double click as it arrives when the first one has turned the page.
+  void DoubleClickOnWhatComesBehind(QWidget* widget) {
+    const QPoint at = widget->mapTo(&main(), widget->rect().center());
+    Click(widget);
+    QWidget* behind = main().childAt(at);
+    QMouseEvent second(QEvent::MouseButtonDblClick, behind->mapFrom(&main(), at),
+                       main().mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(behind, &second);
+    Settle();
+  }
+};
+
+TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
+  desktop_ = std::make_unique<Desktop>();
+  AnswerBoxes("OK");
+  QTimer::singleShot(150, &box_watch_, [this] {
+    ClickTool("Title", "Edit");
+    Click("EditChooseList", "Command1");
+  });
+  EXPECT_EQ(desktop_->Run(), 1);
+  EXPECT_EQ(boxes_, QStringList("Brindlepage|Run-time error '424':\n\nObject required"));
+}
+
+}  // namespace
+}  // namespace brindlepage
