@@ -42,6 +42,20 @@ class MouseAndKeys : public DesktopTest {
   }
 };
 
+TEST_F(MouseAndKeys, WhatIsTypedGoesIntoTheDocumentThatShows) {
+  GoToSecretCode();
+  Type("sheet");
+  EXPECT_TRUE(Holds(Sheet().QuizBox, U"sheet"));
+  ClickTool("CodeForm", "Key");
+  Type("answers");
+  EXPECT_FALSE(Holds(Sheet().QuizBox, U"answers"));
+  EXPECT_TRUE(Holds(Sheet().AnswerBox, U"answers"));
+  ClickTool("CodeForm", "Worksheet");
+  Type("again");
+  EXPECT_TRUE(Holds(Sheet().QuizBox, U"sheetagain"));
+  EXPECT_FALSE(Holds(Sheet().AnswerBox, U"again"));
+}
+
 TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
   desktop_ = std::make_unique<Desktop>();
   AnswerBoxes("OK");

@@ -297,6 +297,7 @@ void FormView::SyncFocus() {
   if (form_ == nullptr) return;
   Control* focused = form_->Focused();
   if (focused == nullptr && !focus_set_) focused = FirstField();
+  if (Is<RichTextBox>(focused) && !focused->CanAct()) focused = ShownDocument();
   if (focused == nullptr) return;
   // The page may have given the keys to its first field by itself.
   form_->Focus(*focused);
@@ -324,6 +325,13 @@ Control* FormView::FirstField() const {
     if (first_button == nullptr) first_button = control;
   }
   return first_button;
+}
+
+Control* FormView::ShownDocument() const {
+  const auto shown = std::find_if(arranged_.begin(), arranged_.end(), [](const Control* control) {
+    return Is<RichTextBox>(control) && control->CanAct();
+  });
+  return shown == arranged_.end() ? nullptr : *shown;
 }
 
 bool FormView::CanClick(bool default_button) const {

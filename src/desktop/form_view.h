@@ -64,6 +64,8 @@ class FormView : public QWidget {
   void SetTabOrder();
   void SyncControls();
   Control* FirstField() const;
+  // A worksheet and its key lie over each other: the keys are for the one that shows.
+  Control* ShownDocument() const;
   bool CanClick(bool default_button) const;
   PicturePtr Background() const;
 
