@@ -56,6 +56,23 @@ TEST_F(MouseAndKeys, WhatIsTypedGoesIntoTheDocumentThatShows) {
   EXPECT_FALSE(Holds(Sheet().AnswerBox, U"again"));
 }
 
+TEST_F(MouseAndKeys, AScreenHasTheSameLettersEachTime) {
+  Start();
+  for (int visit = 0; visit < 4; ++visit) {
+    const auto caption = [this](const char* name, int index = -1) {
+      return Widget<QAbstractButton>("Title", name, index)->text();
+    };
+    EXPECT_EQ(caption("Command1", 0), "Create &a Word Search");
+    EXPECT_EQ(caption("Command1", 2), "Create a &Scramble Worksheet");
+    EXPECT_EQ(caption("Command1", 3), "C&reate a Quiz");
+    EXPECT_EQ(caption("Command3"), "&Just For Fun");
+    EXPECT_EQ(Widget("Title", "Toolbar1")->findChild<QToolButton*>("Quit")->text(), "&Quit");
+    Click("Title", "Command1", visit);
+    Press(Qt::Key_Escape);
+    ASSERT_EQ(Active(), "Title");
+  }
+}
+
 TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
   desktop_ = std::make_unique<Desktop>();
   AnswerBoxes("OK");

@@ -153,8 +153,6 @@ void FormView::MakeViews() {
   CollectWrapping(page, wraps);
   ForEachControl(page, [&](Control& control) { arranged_.push_back(&control); });
 
-  // Letters go to the menus first, then to the controls as they stand on the page, and to the
-  // toolbars last.
   if (MenuBar::HasMenus(*form_)) menu_bar_ = new MenuBar(*form_, loop_, letters_, this);
   const auto make = [&](auto wanted) {
     for (Control* control : arranged_) {
@@ -289,8 +287,19 @@ void FormView::SyncForm() {
   update();
 }
 
+// A letter is chosen when its caption first shows. The menus have theirs already; the large buttons
+// come last, whose long captions leave a choice.
 void FormView::SyncControls() {
-  for (auto& [control, view] : views_) view->Sync();
+  const auto turn_of = [](const Control* control) {
+    const auto* button = dynamic_cast<const CommandButton*>(control);
+    if (button != nullptr && !button->icon.empty()) return 2;
+    return Is<Toolbar>(control) ? 1 : 0;
+  };
+  for (const int turn : {0, 1, 2}) {
+    for (Control* control : arranged_) {
+      if (turn_of(control) == turn) Find(*control)->Sync();
+    }
+  }
 }
 
 void FormView::SyncFocus() {
