@@ -73,6 +73,26 @@ TEST_F(MouseAndKeys, AScreenHasTheSameLettersEachTime) {
   }
 }
 
+TEST_F(MouseAndKeys, AWordAndItsMeaningAreScrolledTogether) {
+  UseOneList(60);
+  Start();
+  ClickTool("Title", "Edit");
+  ClickRow("EditChooseList", "TheLists", 0);
+  Click("EditChooseList", "Command1");
+  auto* words = Widget<QListView>("EditList", "WordList");
+  auto* meanings = Widget<QListView>("EditList", "DefList");
+  QScrollBar& bar = *words->verticalScrollBar();
+  ASSERT_GT(bar.maximum(), 0);
+  bar.setValue(bar.maximum());
+  EXPECT_EQ(meanings->verticalScrollBar()->value(), bar.maximum());
+  meanings->verticalScrollBar()->setValue(30);
+  EXPECT_EQ(bar.value(), 30);
+  words->setFocus();
+  Press(Qt::Key_End);
+  EXPECT_EQ(bar.value(), bar.maximum());
+  EXPECT_EQ(meanings->verticalScrollBar()->value(), bar.value());
+}
+
 TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
   desktop_ = std::make_unique<Desktop>();
   AnswerBoxes("OK");

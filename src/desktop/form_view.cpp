@@ -1,14 +1,18 @@
 #include "desktop/form_view.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "desktop/arranger.h"
 #include "desktop/control_views.h"
@@ -66,6 +70,23 @@ void CollectWrapping(const Arrangement& part, std::map<const Control*, bool>& wr
     }
     CollectWrapping(inside, wraps);
   }
+}
+
+// Lists that stand side by side have their rows in common.
+void CollectTables(const Arrangement& part, std::vector<std::pair<Control*, Control*>>& tables) {
+  for (std::size_t i = 0; i < part.parts.size(); ++i) {
+    CollectTables(part.parts[i], tables);
+    if (part.kind != Arrangement::Kind::Row || i == 0) continue;
+    Control* left = part.parts[i - 1].control;
+    Control* right = part.parts[i].control;
+    if (Is<ListBox>(left) && Is<ListBox>(right)) tables.emplace_back(left, right);
+  }
+}
+
+void ScrollTogether(const QAbstractScrollArea& one, const QAbstractScrollArea& other) {
+  QScrollBar* bars[] = {one.verticalScrollBar(), other.verticalScrollBar()};
+  QObject::connect(bars[0], &QScrollBar::valueChanged, bars[1], &QScrollBar::setValue);
+  QObject::connect(bars[1], &QScrollBar::valueChanged, bars[0], &QScrollBar::setValue);
 }
 
 // The arrangement without the toolbars at its top.
@@ -165,6 +186,13 @@ void FormView::MakeViews() {
   make([](Control* control) { return IsBareMark(control); });
   make([](Control* control) { return !Is<Toolbar>(control); });
   make([](Control*) { return true; });
+
+  std::vector<std::pair<Control*, Control*>> tables;
+  CollectTables(page, tables);
+  const auto list_of = [this](Control* list) -> const QAbstractScrollArea& {
+    return dynamic_cast<const QAbstractScrollArea&>(*views_[list]->widget());
+  };
+  for (const auto& [left, right] : tables) ScrollTogether(list_of(left), list_of(right));
 }
 
 void FormView::MakeView(Control& control, QWidget* partner, bool wraps) {
