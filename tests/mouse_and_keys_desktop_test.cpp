@@ -104,5 +104,15 @@ TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
   EXPECT_EQ(boxes_, QStringList("Brindlepage|Run-time error '424':\n\nObject required"));
 }
 
+TEST_F(MouseAndKeys, ADoubleClickOnAnActivityChoosesNoList) {
+  Start();
+  DoubleClickOnWhatComesBehind(Widget("Title", "Command1", 0));
+  EXPECT_EQ(Active(), "ChooseList");
+  EXPECT_FALSE(Widget("ChooseList", "Command1")->isEnabled());
+  auto* list = Widget<QListView>("ChooseList", "TheLists");
+  DoubleClick(list, list->visualRect(list->model()->index(2, 0)).center());
+  EXPECT_EQ(Active(), "QuizOptions5");
+}
+
 }  // namespace
 }  // namespace brindlepage

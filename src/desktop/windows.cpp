@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "desktop/double_clicks.h"
 #include "desktop/icons.h"
 #include "desktop/text.h"
 #include "toolkit/controls.h"
@@ -66,6 +67,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 Windows::Windows(Loop& loop) : loop_(loop), main_(new FormWindow(*this, nullptr, false)) {
   main_->setObjectName("MainWindow");
   QApplication::setWindowIcon(NamedIcon("program"));
+  new DoubleClicks(this);
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
   connect(qApp, &QGuiApplication::applicationStateChanged, this,
