@@ -73,6 +73,21 @@ TEST_F(MouseAndKeys, AScreenHasTheSameLettersEachTime) {
   }
 }
 
+TEST_F(MouseAndKeys, TheWheelOverTheFontBarChangesNothing) {
+  GoToSecretCode();
+  Press(Qt::Key_A, Qt::ControlModifier);
+  const std::string before = Describe(Sheet().QuizBox);
+  for (const char* name : {"cmbFontName", "cmbFontSize", "cmbFontColor"}) {
+    auto* combo = Widget("CodeForm", name);
+    const QPoint at = combo->rect().center();
+    QWheelEvent turn(at, combo->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(combo, &turn);
+    Settle();
+  }
+  EXPECT_EQ(Describe(Sheet().QuizBox), before);
+}
+
 TEST_F(MouseAndKeys, AWordAndItsMeaningAreScrolledTogether) {
   UseOneList(60);
   Start();

@@ -100,6 +100,8 @@ class ComboBoxView : public ViewOf<ComboBox> {
   }
 
   bool eventFilter(QObject*, QEvent* event) override {
+    // The mouse passes over here on its way: its wheel picks nothing.
+    if (event->type() == QEvent::Wheel) return true;
     if (event->type() != QEvent::KeyPress) return false;
     if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) return false;
     if (control() == nullptr || combo().currentText() == ToQString(box().Text)) return false;
