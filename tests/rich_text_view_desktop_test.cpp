@@ -367,6 +367,31 @@ TEST_F(AnOpenSheet, ANewDocumentCantBeUndone) {
   EXPECT_EQ(BoxText(), "second");
 }
 
+TEST_F(AnOpenSheet, UndoLeadsTheCaretToWhatItUndoes) {
+  Compose([](RichTextBox& box) { box.SelText("one two three"); });
+  SetPlainClipboard("and ");
+  PutCaret(8);
+  Key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "one two and three");
+  Key(Qt::Key_Home, Qt::ControlModifier);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "one two three");
+  EXPECT_EQ(box().SelStart(), 8);
+  ExpectBothEqual();
+}
+
+TEST_F(AnOpenSheet, WhatIsWrittenWhileItTakesNoInputCantBeUndone) {
+  Compose([](RichTextBox& box) { box.SelText("heading\n"); });
+  view->setEnabled(false);
+  runtime.Dispatch([this] { box().SelText("clues"); });
+  view->Mirror();
+  view->setEnabled(true);
+  Type("!");
+  for (int i = 0; i < 3; ++i) Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "heading\nclues");
+  ExpectBothEqual();
+}
+
 TEST_F(AnOpenSheet, CopiesKeepTheirFormatsPicturesAndAlignmentsInsideTheProgram) {
   Compose([](RichTextBox& box) {
     box.SelText("one\n");

@@ -152,7 +152,7 @@ void RichTextMirror::ShowStretch(int start, int box_end, int sheet_end) {
   const auto [before, behind] = SharedCharacters(old, now);
   const auto at = [start](std::size_t cell) { return start + static_cast<int>(cell); };
 
-  QTextCursor edit(&layout_.document());
+  QTextCursor edit = sheet_.textCursor();  // where undo leads back to
   edit.beginEditBlock();
   if (before + behind < std::max(old.size(), now.size())) {
     QTextCursor cursor = Select(at(before), at(old.size() - behind));

@@ -547,6 +547,14 @@ void RichTextView::showEvent(QShowEvent* event) {
   QGraphicsView::showEvent(event);
 }
 
+// What the program wrote while the sheet took no input is no deed of the teacher's.
+void RichTextView::changeEvent(QEvent* event) {
+  QGraphicsView::changeEvent(event);
+  if (event->type() != QEvent::EnabledChange || !isEnabled()) return;
+  Mirror();
+  mirror_.layout().document().clearUndoRedoStacks();
+}
+
 void RichTextView::resizeEvent(QResizeEvent* event) {
   QGraphicsView::resizeEvent(event);
   PlaceSheet();
