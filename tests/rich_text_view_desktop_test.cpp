@@ -340,6 +340,18 @@ TEST_F(AnOpenSheet, AClickBesideTheTextPutsTheCaretIntoItsLine) {
   EXPECT_EQ(box().SelStart(), 0);
 }
 
+TEST_F(AnOpenSheet, AClickBesideTheTextReachesItInAWindowOfAnyWidth) {
+  Compose([](RichTextBox& box) { box.SelText("one\ntwo\nthree"); });
+  for (int width = 880; width < 930; ++width) {
+    view->resize(width, 700);
+    PutCaret(4, 3);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(width - 30, 650));
+    EXPECT_EQ(box().SelStart(), 13) << width;
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(3, 3));
+    EXPECT_EQ(box().SelStart(), 0) << width;
+  }
+}
+
 // --- Undo, copy and paste
 
 TEST_F(AnOpenSheet, UndoAndRedoLeadTheDocumentBackAndForth) {

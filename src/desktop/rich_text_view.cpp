@@ -382,8 +382,9 @@ bool RichTextView::focusNextPrevChild(bool) { return false; }
 
 // The point of the column that is nearest, so that a click beside the text is one into it.
 QPoint RichTextView::IntoColumn(const QPoint& point) const {
-  QRectF column = sheet_->sceneBoundingRect();
-  column.adjust(1, 1, -1, -1);
+  // By a pixel, since the point is rounded to one.
+  const double pixel = 1 / PixelsPerDot();
+  const QRectF column = sheet_->sceneBoundingRect().adjusted(pixel, pixel, -pixel, -pixel);
   const QPointF from = mapToScene(point);
   const QPointF inside(std::clamp(from.x(), column.left(), column.right()),
                        std::clamp(from.y(), column.top(), column.bottom()));
