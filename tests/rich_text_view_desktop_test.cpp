@@ -260,6 +260,16 @@ TEST_F(AnOpenSheet, TabIsTypedAndCtrlTabLeavesTheSheet) {
   view->setParent(nullptr);
 }
 
+TEST_F(AnOpenSheet, AltWithALetterIsLeftToTheScreenToo) {
+  Compose([](RichTextBox& box) { box.SelText("ab"); });
+  QTest::keyClick(view.get(), 'l', Qt::AltModifier);
+  EXPECT_EQ(BoxText(), "ab");
+  QTest::keyClick(view.get(), 'L', Qt::ShiftModifier);
+  EXPECT_EQ(BoxText(), "abL");
+  QTest::keyClick(view.get(), '@', Qt::AltModifier | Qt::ControlModifier);
+  EXPECT_EQ(BoxText(), "abL@");
+}
+
 TEST_F(AnOpenSheet, EscapeIsLeftToTheScreen) {
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   QApplication::sendEvent(view.get(), &escape);

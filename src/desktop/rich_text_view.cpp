@@ -362,11 +362,15 @@ bool RichTextView::event(QEvent* event) {
 void RichTextView::keyPressEvent(QKeyEvent* event) {
   const Command command = CommandOf(*event);
   const bool select = event->modifiers().testFlag(Qt::ShiftModifier);
+  // Alt with a letter that nothing has is no letter.
+  const bool alt_alone = event->modifiers().testFlag(Qt::AltModifier) &&
+                         !event->modifiers().testFlag(Qt::ControlModifier);
+  const bool prints = !event->text().isEmpty() && event->text()[0].isPrint();
   if (command != nullptr) {
     (this->*command)();
   } else if (event->key() == Qt::Key_Escape && find_bar_ != nullptr && find_bar_->isVisible()) {
     CloseFindBar();
-  } else if (event->key() == Qt::Key_Escape) {
+  } else if (event->key() == Qt::Key_Escape || (alt_alone && prints)) {
     event->ignore();
   } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
     MovePage(event->key() == Qt::Key_PageUp, select);
