@@ -124,6 +124,7 @@ TEST_F(ALongSheet, KeepsTheCaretThatScrollsItUnderTheMouse) {
   EXPECT_EQ(box().SelStart(), end);
   Key(Qt::Key_Home, Qt::ControlModifier);
   EXPECT_EQ(box().SelStart(), 0);
+  EXPECT_EQ(Bar().value(), Bar().minimum());
   Key(Qt::Key_PageDown);
   Key(Qt::Key_PageDown);
   EXPECT_GT(box().SelStart(), clicked);

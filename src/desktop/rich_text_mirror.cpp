@@ -189,8 +189,9 @@ void RichTextMirror::ShowCaret() {
   if (positions_.ToQt(start) != shown.selectionStart() ||
       positions_.ToQt(end) != shown.selectionEnd()) {
     sheet_.setTextCursor(Select(start, end));
-    // The start of a sheet shows with the paper's edge.
-    if (start == 0 && end == 0) emit StartShown();
+    // The start of a sheet, where the program puts the caret behind the first character, shows with
+    // the paper's edge.
+    if (end <= 1) emit StartShown();
   }
   ShowCaretFormat();
 }

@@ -376,6 +376,8 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
     MovePage(event->key() == Qt::Key_PageUp, select);
   } else {
     scene_.sendEvent(sheet_, event);
+    // With the paper's edge.
+    if (event->matches(QKeySequence::MoveToStartOfDocument)) ScrollToTop();
   }
 }
 
