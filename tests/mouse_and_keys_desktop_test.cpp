@@ -129,5 +129,18 @@ TEST_F(MouseAndKeys, ADoubleClickOnAnActivityChoosesNoList) {
   EXPECT_EQ(Active(), "QuizOptions5");
 }
 
+TEST_F(MouseAndKeys, ADoubleClickOnDeleteDeletesNothingUnasked) {
+  Start();
+  ClickTool("Title", "Delete");
+  ClickRow("DeleteList", "TheLists", 1);
+  const std::string lists = folder_.Read("TheLists.dat");
+  auto* button = Widget("DeleteList", "Command1");
+  DoubleClickOnWhatComesBehind(button);
+  EXPECT_TRUE(Widget("DeleteList", "Yes")->isVisible());
+  EXPECT_EQ(folder_.Read("TheLists.dat"), lists);
+  Click("DeleteList", "Yes");
+  EXPECT_NE(folder_.Read("TheLists.dat"), lists);
+}
+
 }  // namespace
 }  // namespace brindlepage

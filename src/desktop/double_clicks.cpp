@@ -27,9 +27,13 @@ bool DoubleClicks::eventFilter(QObject* watched, QEvent* event) {
   const bool press = event->type() == QEvent::MouseButtonPress;
   const bool second = event->type() == QEvent::MouseButtonDblClick;
   if ((!press && !second) || !watched->isWidgetType()) return false;
-  QWidget* place = PlaceOf(static_cast<QWidget*>(watched));
-  if (second && place != pressed_ && !IsPopup(place) && !IsPopup(pressed_)) return true;
-  pressed_ = place;
+  auto* widget = static_cast<QWidget*>(watched);
+  const QWidget* place = PlaceOf(widget);
+  const QWidget* place_before = PlaceOf(pressed_);
+  const bool popup = IsPopup(place) || IsPopup(place_before);
+  const bool same = pressed_ != nullptr && pressed_->isVisible() && place == place_before;
+  if (second && !same && !popup) return true;
+  pressed_ = widget;
   return false;
 }
 

@@ -7,7 +7,7 @@
 namespace brindlepage {
 
 // A teacher who double-clicks a button means that one button. The second click does not reach the
-// screen or the box that the first one brought under the mouse.
+// screen, the box or the button that the first one brought under the mouse.
 class DoubleClicks : public QObject {
  public:
   // Watches the whole application.
@@ -16,7 +16,7 @@ class DoubleClicks : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  QPointer<QWidget> pressed_;  // the screen or the box of the last press
+  QPointer<QWidget> pressed_;  // what took the last press
 };
 
 }  // namespace brindlepage
