@@ -35,9 +35,13 @@ class MouseAndKeys : public DesktopTest {
     const QPoint at = widget->mapTo(&main(), widget->rect().center());
     Click(widget);
     QWidget* behind = main().childAt(at);
-    QMouseEvent second(QEvent::MouseButtonDblClick, behind->mapFrom(&main(), at),
-                       main().mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(behind, &second);
+    const auto send = [&](QEvent::Type type, Qt::MouseButtons held) {
+      QMouseEvent event(type, behind->mapFrom(&main(), at), main().mapToGlobal(at), Qt::LeftButton,
+                        held, Qt::NoModifier);
+      QApplication::sendEvent(behind, &event);
+    };
+    send(QEvent::MouseButtonDblClick, Qt::LeftButton);
+    send(QEvent::MouseButtonRelease, Qt::NoButton);
     Settle();
   }
 };
