@@ -517,8 +517,15 @@ void RichTextView::LaidOut(const QSizeF& so_far) {
   const int shown_end = document().documentLayout()->hitTest(
       QPointF(RichTextLayout::kColumnWidth, bottom), Qt::FuzzyHit);
   const bool ends_there = shown_end >= document().characterCount() - 1;
-  text_height_ = ends_there ? document().size().height() : std::max(so_far.height(), bottom);
+  const double height = ends_there ? document().size().height() : std::max(so_far.height(), bottom);
+  const double height_before = std::exchange(text_height_, height);
   PlaceSheet();
+  // A caret that went to what was not laid out could not be scrolled to.
+  const QTextCursor caret = Caret();
+  if (caret.isNull() || caret.hasSelection() || caret.atStart()) return;
+  if (const QRectF place = CaretRect(caret); place.bottom() > height_before) {
+    ensureVisible(place, 0, kGround);
+  }
 }
 
 // The sheet is as high as its text, or as the window when that is more; its margins give way in a
