@@ -112,6 +112,22 @@ TEST_F(MouseAndKeys, AWordAndItsMeaningAreScrolledTogether) {
   EXPECT_EQ(meanings->verticalScrollBar()->value(), bar.value());
 }
 
+TEST_F(MouseAndKeys, EveryStopOfTheTabKeyInTheListEditorIsSeen) {
+  UseOneList(5);
+  Start();
+  ClickTool("Title", "Edit");
+  ClickRow("EditChooseList", "TheLists", 0);
+  Click("EditChooseList", "Command1");
+  QStringList stops;
+  for (int tabs = 0; tabs < 9; ++tabs) {
+    stops << QApplication::focusWidget()->objectName();
+    Press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(stops, QStringList({"WordList", "DefList", "Add Word", "Delete Word", "Edit Word",
+                                "Rename List", "Save and Quit", "Cancel", "WordList"}))
+      << stops.join(", ").toStdString();
+}
+
 TEST_F(MouseAndKeys, ARunTimeErrorIsReadBeforeTheProcessEnds) {
   desktop_ = std::make_unique<Desktop>();
   AnswerBoxes("OK");

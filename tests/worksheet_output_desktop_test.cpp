@@ -133,6 +133,11 @@ class OutputTest : public DesktopTest {
     auto* selection = dialog.findChild<QRadioButton*>("printSelection");
     auto* buttons = dialog.findChild<QDialogButtonBox*>();
     ASSERT_TRUE(file != nullptr && selection != nullptr && buttons != nullptr);
+    for (const char* name : {"printRange", "from", "to", "pagesRadioButton", "pageSetCombo"}) {
+      const auto* part = dialog.findChild<QWidget*>(name);
+      EXPECT_TRUE(part == nullptr || part->isHidden()) << name;
+    }
+    EXPECT_FALSE(dialog.findChild<QWidget*>("printAll")->isHidden());
     offered_ << file->text();
     const Printing printing = printings_.empty() ? Printing{.cancel = true} : printings_.front();
     if (!printings_.empty()) printings_.pop_front();

@@ -349,7 +349,8 @@ void FormView::SyncFocus() {
   if (line != nullptr && !focus_set_) line->selectAll();
   focus_shown_ = focused;
   focus_set_ = true;
-  if (!has_it || !view->widget()->hasFocus()) view->widget()->setFocus(Qt::TabFocusReason);
+  QWidget* place = has_it ? now : view->widget();  // a tool, for one
+  if (!place->hasFocus()) place->setFocus(Qt::TabFocusReason);
 }
 
 Control* FormView::FirstField() const {

@@ -6,12 +6,14 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QThread>
 #include <algorithm>
 
@@ -93,6 +95,16 @@ QString FreePdfFile(const QPrinter& printer) {
   return file;
 }
 
+// The library's own dialog shows them all the same, and they would count for nothing.
+void HidePageNumbers(const QPrintDialog& dialog) {
+  const auto* range = dialog.findChild<QGroupBox*>("gbPrintRange");
+  if (range == nullptr) return;
+  for (QWidget* part : range->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    const QString name = part->objectName();
+    if (name != "printAll" && name != "printSelection") part->hide();
+  }
+}
+
 }  // namespace
 
 QtPlatform::QtPlatform(Loop& loop, Windows& windows) : loop_(loop), windows_(windows) {
@@ -148,6 +160,10 @@ std::optional<PrintChoice> QtPlatform::PrintDialog(unsigned flags) {
   // Here the PDF file is one of the printers, and the only one where no other is set up.
   dialog.setOption(QAbstractPrintDialog::PrintToFile);
   if (auto* file = dialog.findChild<QLineEdit*>("filename")) file->setText(FreePdfFile(printer));
+  if (flags & kPrintNoPageNumbers) {
+    // Once it has come up with them.
+    QTimer::singleShot(0, &dialog, [&dialog] { HidePageNumbers(dialog); });
+  }
 #endif
   if (!Run(dialog)) return std::nullopt;
   return printer.printRange() == QPrinter::Selection ? PrintChoice::Selection : PrintChoice::All;

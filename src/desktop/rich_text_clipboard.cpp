@@ -3,6 +3,8 @@
 #include <QBuffer>
 #include <QImage>
 #include <QString>
+#include <QTextDocumentFragment>
+#include <QUrl>
 #include <algorithm>
 
 #include "toolkit/platform.h"
@@ -25,11 +27,25 @@ std::shared_ptr<const RichPicture> PictureOf(const QImage& image, int widest) {
   return picture;
 }
 
-// A line break within a paragraph ends it here.
+// Addresses of files are no text, though the library would give them for it. A line break within a
+// paragraph ends it here.
 std::u32string PlainText(const QMimeData& data) {
-  std::u32string text = data.text().toStdU32String();
+  QString words;
+  if (data.hasFormat("text/plain")) {
+    words = data.text();
+  } else if (data.hasHtml()) {
+    words = QTextDocumentFragment::fromHtml(data.html()).toPlainText();
+  }
+  std::u32string text = words.toStdU32String();
   std::replace(text.begin(), text.end(), char32_t{QChar::LineSeparator}, U'\n');
   return text;
+}
+
+// What was copied in a program that shows pictures, or one that shows files.
+QImage ImageOf(const QMimeData& data) {
+  if (data.hasImage()) return qvariant_cast<QImage>(data.imageData());
+  const QList<QUrl> files = data.urls();
+  return files.size() == 1 ? QImage(files.front().toLocalFile()) : QImage();
 }
 
 }  // namespace
@@ -70,17 +86,16 @@ void RichTextMimeData::InsertInto(RichText& text) const {
 
 bool CanInsertMimeData(const QMimeData& data) {
   return qobject_cast<const RichTextMimeData*>(&data) != nullptr || data.hasText() ||
-         data.hasImage();
+         data.hasHtml() || data.hasImage();
 }
 
 void InsertMimeData(RichText& text, const QMimeData& data, int widest) {
   if (const auto* own = qobject_cast<const RichTextMimeData*>(&data)) {
     own->InsertInto(text);
-  } else if (data.hasText() && !data.text().isEmpty()) {
-    text.SelUnicode(PlainText(data));
-  } else if (data.hasImage()) {
-    const auto image = qvariant_cast<QImage>(data.imageData());
-    if (!image.isNull()) text.InsertPicture(PictureOf(image, widest));
+  } else if (const std::u32string words = PlainText(data); !words.empty()) {
+    text.SelUnicode(words);
+  } else if (const QImage image = ImageOf(data); !image.isNull()) {
+    text.InsertPicture(PictureOf(image, widest));
   }
 }
 

@@ -29,7 +29,8 @@ class RichTextMimeData : public QMimeData {
   std::vector<Alignment> alignments_;  // of the paragraphs that end in the stretch
 };
 
-// Whether InsertMimeData has a use for it: text of this program, plain text, or a picture.
+// Whether InsertMimeData may have a use for it: text of this program, other text, of which it takes
+// the words alone, a picture, or a picture's file.
 bool CanInsertMimeData(const QMimeData& data);
 
 // Puts what another program or this one copied in the place of the selection. A picture from
