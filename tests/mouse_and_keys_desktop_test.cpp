@@ -112,6 +112,23 @@ TEST_F(MouseAndKeys, AWordAndItsMeaningAreScrolledTogether) {
   EXPECT_EQ(meanings->verticalScrollBar()->value(), bar.value());
 }
 
+TEST_F(MouseAndKeys, ASheetAndItsKeyOpenAtTheirLeftEdgeInANarrowWindow) {
+  UseOneList(5);
+  Start();
+  main().showMaximized();  // and so it stays
+  Settle();
+  GoToPickWords(5);
+  Click("PickWords", "ChooseRandom");
+  Click("PickWords", "Command2");
+  main().showNormal();
+  main().resize(640, 440);
+  Settle();
+  ClickTool("CodeForm", "Key");
+  const QScrollBar& bar = *Widget<RichTextView>("CodeForm", "AnswerBox")->horizontalScrollBar();
+  ASSERT_GT(bar.maximum(), bar.minimum());
+  EXPECT_EQ(bar.value(), bar.minimum());
+}
+
 TEST_F(MouseAndKeys, EveryStopOfTheTabKeyInTheListEditorIsSeen) {
   UseOneList(5);
   Start();

@@ -547,7 +547,10 @@ void RichTextView::PlaceSheet() {
   if (paper.intersected(window) != before.intersected(window)) viewport()->update();
 }
 
-void RichTextView::ScrollToTop() { verticalScrollBar()->setValue(verticalScrollBar()->minimum()); }
+void RichTextView::ScrollToTop() {
+  horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
+  verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+}
 
 void RichTextView::PlaceFindBar() {
   if (find_bar_ == nullptr) return;
