@@ -13,8 +13,8 @@
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QThread>
+#include <QTimer>
 #include <algorithm>
 
 #include "desktop/boxes.h"
