@@ -3,12 +3,12 @@
 #include <QHashFunctions>
 #include <QPainter>
 #include <QPixmapCache>
-#include <QThreadPool>
 #include <future>
 #include <utility>
 
 #include "desktop/decode_picture.h"
 #include "desktop/icons.h"
+#include "desktop/other_thread.h"
 #include "desktop/style.h"
 
 namespace brindlepage {
@@ -51,10 +51,7 @@ void Prepare(const Wanted& wanted) {
   const QString key = wanted.Key();
   QPixmap kept;
   if (TheComing().key == key || QPixmapCache::find(key, &kept)) return;
-  const auto decoded = std::make_shared<std::promise<QImage>>();
-  TheComing() = {key, decoded->get_future()};
-  // The application waits for these threads before it goes.
-  QThreadPool::globalInstance()->start([wanted, decoded] { decoded->set_value(wanted.Decode()); });
+  TheComing() = {key, InOtherThread([wanted] { return wanted.Decode(); })};
 }
 
 QPixmap Kept(const Wanted& wanted) {

@@ -8,11 +8,11 @@
 #include <QPainter>
 #include <QSyntaxHighlighter>
 #include <QTextBlock>
-#include <QThreadPool>
 #include <algorithm>
 #include <cmath>
 
 #include "desktop/decode_picture.h"
+#include "desktop/other_thread.h"
 #include "toolkit/code_page.h"
 
 namespace brindlepage {
@@ -140,11 +140,8 @@ int LayoutDevice::metric(PaintDeviceMetric metric) const {
 
 void RichTextPictures::Add(std::uint32_t format_id, std::shared_ptr<const RichPicture> picture) {
   if (shown_.count(format_id)) return;
-  const auto decoded = std::make_shared<std::promise<Images>>();
-  shown_.emplace(format_id, Shown{picture, decoded->get_future()});
-  // The application waits for these threads before it goes.
-  QThreadPool::globalInstance()->start(
-      [picture, decoded] { decoded->set_value(Decode(*picture)); });
+  auto coming = InOtherThread([picture] { return Decode(*picture); });
+  shown_.emplace(format_id, Shown{std::move(picture), std::move(coming)});
 }
 
 RichTextPictures::Images RichTextPictures::Decode(const RichPicture& picture) {

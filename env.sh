@@ -1,3 +1,0 @@
-cross() { # from Title: to crossword sheet with 'All done' answered
-k alt+c; sleep .2; 
-}
