@@ -118,7 +118,10 @@ class DesktopTest : public testing::Test {
   void OnBoxes(std::function<void(QDialog&)> deed) {
     QObject::connect(&box_watch_, &QTimer::timeout, &box_watch_, [deed] {
       auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-      if (box != nullptr && box->focusWidget() != nullptr) deed(*box);
+      if (box == nullptr) return;
+      if (box->focusWidget() != nullptr) return deed(*box);
+      // Without a window manager nobody hands the keys to a box that another one covered.
+      box->activateWindow();
     });
     box_watch_.start(20);
   }

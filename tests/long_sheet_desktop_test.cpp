@@ -77,6 +77,7 @@ TEST_F(ALongSheet, IsLaidOutAsFarAsItIsSeenAndToItsEndByAndBy) {
 }
 
 TEST_F(ALongSheet, IsScrolledToItsEndAtOnceIfTheCaretGoesThere) {
+  view->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
   Compose([](RichTextBox& box) {
     box.SelText(std::string(200, 'x'));

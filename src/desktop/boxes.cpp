@@ -87,7 +87,6 @@ ChoiceBox::ChoiceBox(const QString& title, const QString& text, const QStringLis
       accept();
     });
     row->addWidget(button);
-    if (i == 0) button->setFocus();
   }
   column->addLayout(row);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
