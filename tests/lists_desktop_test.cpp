@@ -252,15 +252,15 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
   OnBoxes([&](QDialog& box) {
     auto* dialog = qobject_cast<QFileDialog*>(&box);
     if (dialog == nullptr) return QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
+    // A folder is read behind the dialog, and a second one gets lost while the first is.
+    const auto* shown = dialog->findChild<QListView*>("listView");
+    const QModelIndex root = shown->rootIndex();
+    if (shown->model()->rowCount(root) == 0) return;
     if (start.isEmpty()) {
       title = dialog->windowTitle();
       start = dialog->directory().path();
       return dialog->setDirectory("programs");
     }
-    // The folder is read behind the dialog.
-    const auto* shown = dialog->findChild<QListView*>("listView");
-    const QModelIndex root = shown->rootIndex();
-    if (shown->model()->rowCount(root) == 0) return;
     for (int row = 0; row < shown->model()->rowCount(root); ++row) {
       offered << shown->model()->index(row, 0, root).data().toString();
     }

@@ -2,6 +2,8 @@
 // as it is seen, and the rest by and by.
 
 #include <QAbstractTextDocumentLayout>
+#include <QBackingStore>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QTextLayout>
 
@@ -114,6 +116,46 @@ TEST_F(ALongSheet, StaysWhereItIsWhileAllOfItIsSelectedFormattedAndUndone) {
     AwaitLayout();
     ExpectBothEqual();
   }
+}
+
+// Counts the paintings of more than half of a widget.
+class Paintings : public QObject {
+ public:
+  explicit Paintings(QWidget& widget) : widget_(widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    const QRect part = static_cast<QPaintEvent*>(event)->region().boundingRect();
+    if (part.height() > widget_.height() / 2) ++count;
+    return false;
+  }
+  int count = 0;
+
+ private:
+  QWidget& widget_;
+};
+
+TEST_F(ALongSheet, IsPaintedOnceAndWholeWhenAllOfItIsFormatted) {
+  AwaitLayout();
+  Key(Qt::Key_A, Qt::ControlModifier);
+  QTest::qWait(20);
+  const auto has_text_at_the_end = [this] {
+    const auto& window = dynamic_cast<QImage&>(*view->backingStore()->paintDevice());
+    const QRect end(0, window.height() - 40, window.width() - 40, 20);
+    bool has = false;
+    for (int x = end.left(); x < end.right(); ++x) {
+      for (int y = end.top(); y < end.bottom(); ++y) has |= window.pixelColor(x, y).value() < 80;
+    }
+    return has;
+  };
+  ASSERT_TRUE(has_text_at_the_end());
+
+  const Paintings paintings(*view->viewport());
+  Key(Qt::Key_B, Qt::ControlModifier);
+  while (paintings.count == 0) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  EXPECT_FALSE(LastLineIsLaidOut());
+  EXPECT_TRUE(has_text_at_the_end());
+  AwaitLayout();
+  EXPECT_EQ(paintings.count, 1);
 }
 
 TEST_F(ALongSheet, KeepsTheCaretThatScrollsItUnderTheMouse) {

@@ -168,6 +168,28 @@ TEST_F(StudySheetTest, AWorksheetFillsTheScreenAndTheMenuComesBackAsItWas) {
   EXPECT_EQ(main().size(), before);
 }
 
+TEST_F(StudySheetTest, ItIsNotPaintedSmallBeforeItsWindowIsMaximised) {
+  UseOneList(5);
+  Start();
+  GoToPickWords(4);
+  Click("PickWords", "ChooseRandom");
+  const PaintedSizes painted("StudyGuideForm");
+  Click("PickWords", "Command2");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !painted.sizes.empty(); }));
+  const QSize full = main().Page()->size();
+  EXPECT_EQ(painted.sizes, std::set{std::pair(full.width(), full.height())});
+}
+
+TEST_F(StudySheetTest, AClickIsAnsweredAsSoonAsItsHandlerIsDone) {
+  UseOneList(5);
+  Start();
+  const PaintedSizes painted("ChooseList");
+  QTest::mouseClick(Widget("Title", "Command1", 4), Qt::LeftButton);
+  EXPECT_TRUE(painted.sizes.empty());
+  QApplication::sendPostedEvents();
+  EXPECT_FALSE(painted.sizes.empty());
+}
+
 TEST_F(StudySheetTest, TheMenuIsNotPaintedLargeBeforeItsWindowGoesBack) {
   UseOneList(5);
   Start();

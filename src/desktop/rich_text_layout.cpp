@@ -21,13 +21,6 @@ namespace {
 
 constexpr int kFormatId = QTextFormat::UserProperty + 1;
 
-// How far a line may reach over the column's edge: less than a hundredth of an inch, room for
-// the strokes by which underscores join.
-constexpr double kOverhang = 2.5;
-
-// Qt's own idea of a page without end is too short for a very long document.
-constexpr double kEndless = 3.2e7;
-
 // The width of a typewriter's character, in sizes of its font.
 constexpr double kTypewriterPitch = 0.6;
 
@@ -183,22 +176,23 @@ void RichTextPictures::drawObject(QPainter* painter, const QRectF& rect, QTextDo
 // --- The layout
 
 RichTextLayout::RichTextLayout(const RichText& text) : text_(text) {
-  QTextOption option;
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  option.setUseDesignMetrics(true);
-  document_.setDefaultTextOption(option);
-  document_.setUseDesignMetrics(true);
-  document_.setDocumentMargin(0);
-  document_.documentLayout()->setPaintDevice(&device_);
-  document_.documentLayout()->registerHandler(RichTextPictures::kObjectType, &pictures_);
-  document_.setPageSize(QSizeF(kColumnWidth + kOverhang, kEndless));
-
   // An empty document is as high as a line of the design font. Formats take from this font what
   // they do not set, so it has nothing but a family and a size.
   const CharFormat& design = text.DesignFormat();
   QFont font(ShownFamilies(FontName(design)));
   font.setPointSizeF(design.size / 20.0);
   document_.setDefaultFont(font);
+
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setUseDesignMetrics(true);
+  document_.setDefaultTextOption(option);
+  document_.setUseDesignMetrics(true);
+  document_.setDocumentMargin(0);
+  // From here on it is laid out, for which the fonts in use are read.
+  document_.documentLayout()->setPaintDevice(&device_);
+  document_.documentLayout()->registerHandler(RichTextPictures::kObjectType, &pictures_);
+  document_.setPageSize(kPage);
   LayOutMuchBySteps();
 }
 

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QObject>
 #include <QPaintDevice>
+#include <QSizeF>
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
 #include <QTextCursor>
@@ -67,6 +68,10 @@ class RichTextLayout {
   static constexpr int kDotsPerInch = 288;
   static constexpr int kTwipsPerDot = 1440 / kDotsPerInch;
   static constexpr int kColumnWidth = 7 * kDotsPerInch + kDotsPerInch / 2;  // dots
+  // All the room that lines may take. They reach over the column's edge by less than a hundredth of
+  // an inch, by the strokes with which underscores join. Qt's own page without end is too short for
+  // a very long document.
+  static constexpr QSizeF kPage{kColumnWidth + 2.5, 3.2e7};  // dots
 
   // `text` must live as long as Insert and Format are called.
   explicit RichTextLayout(const RichText& text);

@@ -25,6 +25,7 @@
 
 #include "desktop/rich_text_clipboard.h"
 #include "desktop/rich_text_find_bar.h"
+#include "desktop/rich_text_selection.h"
 #include "desktop/style.h"
 
 namespace brindlepage {
@@ -56,6 +57,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   explicit Sheet(RichTextView& view) : view_(view) {}
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override {
+    if (textCursor().hasSelection() && !dragged_over_) return PaintSelected(*painter, *option);
     QStyleOptionGraphicsItem plain = *option;
     plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);  // no frame
     QGraphicsTextItem::paint(painter, &plain, widget);
@@ -63,6 +65,10 @@ class RichTextView::Sheet : public QGraphicsTextItem {
 
  protected:
   bool sceneEvent(QEvent* event) override {
+    // What is dragged over the text has a caret of its own, which the library paints.
+    if (event->type() == QEvent::GraphicsSceneDragEnter) dragged_over_ = true;
+    if (event->type() == QEvent::GraphicsSceneDragLeave) dragged_over_ = false;
+    if (event->type() == QEvent::GraphicsSceneDrop) dragged_over_ = false;
     if (view_.moving_caret_) return QGraphicsTextItem::sceneEvent(event);
     view_.mirror_.ShowBox();
     const QScopedValueRollback<bool> guard(view_.moving_caret_, true);
@@ -86,7 +92,17 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   }
 
  private:
+  void PaintSelected(QPainter& painter, const QStyleOptionGraphicsItem& option) {
+    PaintSelection(painter, textCursor(), option.exposedRect,
+                   view_.palette().color(QPalette::Highlight));
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette.setColor(QPalette::Text, defaultTextColor());
+    context.clip = option.exposedRect;
+    document()->documentLayout()->draw(&painter, context);
+  }
+
   RichTextView& view_;
+  bool dragged_over_ = false;
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
@@ -107,8 +123,12 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   setScene(&scene_);
   scene_.setFocusItem(sheet_);
 
-  connect(document().documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
-          &RichTextView::LaidOut);
+  // The item takes all the room that a text can need, once and for all. Otherwise it would be
+  // painted anew with each step in which a long text is laid out, and no further than that.
+  QAbstractTextDocumentLayout* layout = document().documentLayout();
+  emit layout->documentSizeChanged(RichTextLayout::kPage);
+  disconnect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, nullptr, nullptr);
+  connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this, &RichTextView::LaidOut);
   connect(&mirror_, &RichTextMirror::StartShown, this, &RichTextView::ScrollToTop);
   LaidOut(document().size());
   // A key is ready when it is asked for.
@@ -390,7 +410,8 @@ bool RichTextView::focusNextPrevChild(bool) { return false; }
 QPoint RichTextView::IntoColumn(const QPoint& point) const {
   // By a pixel, since the point is rounded to one.
   const double pixel = 1 / PixelsPerDot();
-  const QRectF column = sheet_->sceneBoundingRect().adjusted(pixel, pixel, -pixel, -pixel);
+  const QRectF column = QRectF(0, 0, RichTextLayout::kColumnWidth, text_height_)
+                            .adjusted(pixel, pixel, -pixel, -pixel);
   const QPointF from = mapToScene(point);
   const QPointF inside(std::clamp(from.x(), column.left(), column.right()),
                        std::clamp(from.y(), column.top(), column.bottom()));
@@ -542,6 +563,9 @@ void RichTextView::PlaceSheet() {
                      std::max(text_height_ + 2 * kPaperMargin, std::floor(height)));
   const QRectF before = std::exchange(paper_, paper);
   setTransform(QTransform::fromScale(scale, scale));
+  // Told, as the library would find out when it has painted once.
+  const bool fits = paper.width() <= width;
+  setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
   setSceneRect(paper_.adjusted(-ground, -ground, ground, ground));
   const QRectF window = mapToScene(viewport()->rect()).boundingRect();
   if (paper.intersected(window) != before.intersected(window)) viewport()->update();

@@ -5,7 +5,9 @@
 #include <QDialog>
 #include <QScreen>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/double_clicks.h"
 #include "desktop/icons.h"
@@ -51,6 +53,40 @@ void FormWindow::FitToPage() {
   QSize fit = content.totalSizeHint().expandedTo(Page()->minimumSize());
   if (content.hasHeightForWidth()) fit.setHeight(content.totalHeightForWidth(fit.width()));
   if (fit != size()) setFixedSize(fit);
+}
+
+// A window manager takes its time to make a window larger, and may do nothing at all.
+void FormWindow::ShowMaximisedAtOnce() {
+  if (isVisible()) {
+    setUpdatesEnabled(false);
+    QTimer::singleShot(kMoment, this, &FormWindow::LetPaint);
+  }
+  showMaximized();
+}
+
+void FormWindow::ShowNormalAtOnce() {
+  const QSize size = normalGeometry().size();
+  showNormal();
+  resize(size);
+  LetPaint();
+}
+
+// What was asked for before counts as under way, and would not be asked for again.
+void FormWindow::LetPaint() {
+  if (updatesEnabled()) return;
+  setUpdatesEnabled(true);
+  QTimer::singleShot(0, this, &FormWindow::PaintNow);
+}
+
+void FormWindow::PaintNow() {
+  if (!isVisible() || !windowHandle()->isExposed()) return;
+  QEvent update(QEvent::UpdateRequest);
+  QCoreApplication::sendEvent(this, &update);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  LetPaint();
 }
 
 bool FormWindow::event(QEvent* event) {
@@ -152,6 +188,7 @@ void Windows::FlushSoon() {
         if (loop_.Held()) return;
         TellSizes();
         loop_.TakeStock();
+        PaintNow();
       },
       Qt::QueuedConnection);
 }
@@ -230,12 +267,10 @@ void Windows::FollowWindowState(Form& form) {
   const bool is_maximised = main_->isMaximized();
   if (form.WindowState == kMaximised && !is_maximised) {
     maximised_by_program_ = true;
-    main_->showMaximized();
+    main_->ShowMaximisedAtOnce();
   } else if (form.WindowState == kNormal && maximised_by_program_) {
     maximised_by_program_ = false;
-    const QSize size = main_->normalGeometry().size();
-    main_->showNormal();
-    main_->resize(size);  // the page is not painted at the large size first
+    main_->ShowNormalAtOnce();
   } else if (!main_->isVisible()) {
     is_maximised ? main_->showMaximized() : main_->show();
   }
@@ -304,6 +339,12 @@ void Windows::TellSizes() {
     const QSize twips = view->size() * kTwipsPerPixel;
     loop_.Dispatch([&] { loop_.runtime().forms().Resize(resized, twips.width(), twips.height()); });
   }
+}
+
+void Windows::PaintNow() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  main_->PaintNow();
+  for (const auto& [form, box] : boxes_) box->PaintNow();
 }
 
 void Windows::WindowActivated(FormWindow& window) {

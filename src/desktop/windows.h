@@ -24,12 +24,20 @@ class FormWindow : public QWidget {
   void ShowPage(FormView& page);
   // As large as its page needs, and no larger.
   void FitToPage();
+  // Without the page at the size before first.
+  void ShowMaximisedAtOnce();
+  void ShowNormalAtOnce();
+  // Paints what has changed; the library would wait 5 ms for more.
+  void PaintNow();
 
  protected:
+  void resizeEvent(QResizeEvent* event) override;
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  void LetPaint();
+
   Windows& windows_;
   QStackedLayout* pages_;
 };
@@ -71,6 +79,7 @@ class Windows : public QObject {
   void ShowFocus();
   void Bury();
   void TellSizes();
+  void PaintNow();
 
   void FollowWindowState(Form& form);
   void Place();
