@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
@@ -7,6 +8,7 @@
 #include <QPrinter>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
@@ -267,6 +269,20 @@ TEST_F(CrosswordDesktop, APuzzleIsMadePreviewedAndTurnedIntoAWorksheetByMouseAlo
     }
     EXPECT_EQ(pictures, 1);
   }
+}
+
+TEST_F(CrosswordDesktop, TheFinishedWorksheetHasTheKeysAndFollowsTheCaret) {
+  MakePuzzle();
+  Click(Screen::CrossPrint, "Command5");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return messages_.contains("All done!"); }, 20000));
+  main().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main()));
+  QTest::qWait(50);
+  auto& sheet = *forms().Find<CrosswordWorksheet>(Screen::CrosswordWorksheet);
+  ControlView* view = desktop_->windows().Find(sheet)->Find(sheet.QuizBox);
+  ASSERT_EQ(QApplication::focusWidget(), view->widget());
+  QTest::keyClick(view->widget(), Qt::Key_End, Qt::ControlModifier);
+  EXPECT_GT(qobject_cast<QAbstractScrollArea*>(view->widget())->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(CrosswordDesktop, ARemadePuzzleComesUpAfterTheRequestToWait) {

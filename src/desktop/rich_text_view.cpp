@@ -588,6 +588,18 @@ void RichTextView::showEvent(QShowEvent* event) {
   QGraphicsView::showEvent(event);
 }
 
+// A scene counts what makes it active, and loses count when a hidden page's sheet is hidden.
+bool RichTextView::viewportEvent(QEvent* event) {
+  const auto type = event->type();
+  const bool of_window = type == QEvent::WindowActivate || type == QEvent::WindowDeactivate;
+  const bool counted = of_window || type == QEvent::Show || type == QEvent::Hide;
+  if (!counted) return QGraphicsView::viewportEvent(event);
+  const bool active = isVisible() && isActiveWindow();
+  QEvent change(active ? QEvent::WindowActivate : QEvent::WindowDeactivate);
+  if (active != scene_.isActive()) QApplication::sendEvent(&scene_, &change);
+  return QAbstractScrollArea::viewportEvent(event);
+}
+
 // What the program wrote while the sheet took no input is no deed of the teacher's.
 void RichTextView::changeEvent(QEvent* event) {
   QGraphicsView::changeEvent(event);

@@ -64,6 +64,7 @@ class RichTextView : public QGraphicsView {
   void wheelEvent(QWheelEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void drawBackground(QPainter* painter, const QRectF& exposed) override;
