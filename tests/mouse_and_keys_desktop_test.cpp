@@ -60,6 +60,35 @@ TEST_F(MouseAndKeys, WhatIsTypedGoesIntoTheDocumentThatShows) {
   EXPECT_FALSE(Holds(Sheet().AnswerBox, U"again"));
 }
 
+TEST_F(MouseAndKeys, EnterOnCancelSavesNothing) {
+  GoToSecretCode();
+  OnBoxes([this](QDialog& box) {
+    boxes_ << box.windowTitle();
+    if (boxes_.size() > 1) return box.reject();
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Tab);
+    Press(Qt::Key_Return);
+  });
+  ClickTool("CodeForm", "Save");
+  StopWatching();
+  EXPECT_EQ(boxes_, QStringList("Name Saved File"));
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.Path() / "worksheets"));
+}
+
+TEST_F(MouseAndKeys, AQuestionIsAnsweredByTheLetterOfItsAnswer) {
+  GoToSecretCode();
+  OnBoxes([this](QDialog& box) {
+    boxes_ << box.windowTitle();
+    if (boxes_.size() > 4) return box.reject();
+    Press(box.windowTitle() == "Save Answer Key?" ? Qt::Key_N : Qt::Key_Return);
+  });
+  ClickTool("CodeForm", "Save");
+  StopWatching();
+  EXPECT_EQ(boxes_, QStringList({"Name Saved File", "Save Answer Key?", "Export Successful"}));
+  const auto saved = std::filesystem::directory_iterator(folder_.Path() / "worksheets");
+  EXPECT_EQ(std::distance(begin(saved), end(saved)), 1);
+}
+
 TEST_F(MouseAndKeys, AScreenHasTheSameLettersEachTime) {
   Start();
   for (int visit = 0; visit < 4; ++visit) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -92,6 +93,17 @@ ChoiceBox::ChoiceBox(const QString& title, const QString& text, const QStringLis
   layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+// In a question a letter needs no Alt.
+void ChoiceBox::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::ShiftModifier) {
+    const QKeySequence letter(Qt::ALT | static_cast<Qt::Key>(event->key()));
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+      if (button->shortcut() == letter) return button->click();
+    }
+  }
+  QDialog::keyPressEvent(event);
+}
+
 int ChoiceBox::Ask() {
   exec();
   return answer_;
@@ -143,7 +155,6 @@ LineBox::LineBox(const QString& title, const QString& prompt, const QString& tex
   row->addWidget(ok);
   auto* cancel = new QPushButton("&Cancel");
   cancel->setObjectName("Cancel");
-  cancel->setAutoDefault(false);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   row->addWidget(cancel);
   column->addLayout(row);

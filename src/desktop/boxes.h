@@ -18,6 +18,9 @@ class ChoiceBox : public QDialog {
 
   int Ask();  // the answer's number
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   int answer_;
 };
