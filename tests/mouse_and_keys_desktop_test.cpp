@@ -1,6 +1,7 @@
 // Mouse and keys together, as a teacher has them: what has the keys, and what a second click does.
 
 #include <QMouseEvent>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -87,6 +88,18 @@ TEST_F(MouseAndKeys, AQuestionIsAnsweredByTheLetterOfItsAnswer) {
   EXPECT_EQ(boxes_, QStringList({"Name Saved File", "Save Answer Key?", "Export Successful"}));
   const auto saved = std::filesystem::directory_iterator(folder_.Path() / "worksheets");
   EXPECT_EQ(std::distance(begin(saved), end(saved)), 1);
+}
+
+TEST_F(MouseAndKeys, AClickOnACaptionGivesTheKeysToWhatItStandsBeside) {
+  UseOneList(5);
+  Start();
+  Click("Title", "Command1", 3);
+  ClickRow("ChooseList", "TheLists", 0);
+  Click("ChooseList", "Command1");
+  Click("QuizOptions3", "Label3", 1);
+  EXPECT_EQ(QApplication::focusWidget(), Widget("QuizOptions3", "Match"));
+  Press(Qt::Key_Down);
+  EXPECT_TRUE(Widget<QRadioButton>("QuizOptions3", "FillNo")->isChecked());
 }
 
 TEST_F(MouseAndKeys, AScreenHasTheSameLettersEachTime) {

@@ -32,9 +32,11 @@ class LabelView : public ViewOf<Label> {
         text().setProperty("look", "link");
         text().setFocusPolicy(Qt::TabFocus);
       }
-      new Clicks(
-          &text(), [this] { Act([](Label& l) { l.UserClick(); }); },
-          [this] { Act([](Label& l) { l.UserClick(); }); });
+      const auto click = [this] {
+        if (partner_ != nullptr) partner_->setFocus(Qt::MouseFocusReason);
+        Act([](Label& l) { l.UserClick(); });
+      };
+      new Clicks(&text(), click, click);
     } else if (label.DblClick) {
       new Clicks(
           &text(), [] {}, [this] { Act([](Label& l) { l.UserDoubleClick(); }); });
