@@ -67,6 +67,13 @@ TEST_F(AnOpenSheet, AHiddenKeyIsLoadedSoonAfterwards) {
   EXPECT_EQ(key.document().toPlainText(), "1. Mars");
 }
 
+TEST_F(ALongSheet, StaysAtThePapersEdgeInAWindowThatGrows) {
+  ASSERT_EQ(Bar().value(), Bar().minimum());
+  view->window()->resize(view->window()->width(), 3 * view->window()->height());
+  AwaitLayout();
+  EXPECT_EQ(Bar().value(), Bar().minimum());
+}
+
 TEST_F(ALongSheet, IsLaidOutAsFarAsItIsSeenAndToItsEndByAndBy) {
   EXPECT_FALSE(LastLineIsLaidOut());
   EXPECT_EQ(TopLine(), 1);

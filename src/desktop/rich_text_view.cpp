@@ -143,8 +143,6 @@ void RichTextView::Leave() {
   sheet_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 
-void RichTextView::Mirror() { mirror_.ShowBox(); }
-
 QTextCursor RichTextView::Caret() const { return sheet_->textCursor(); }
 
 // --- The teacher's commands
@@ -311,8 +309,6 @@ void RichTextView::CloseFindBar() {
   find_bar_->hide();
   setFocus(Qt::OtherFocusReason);
 }
-
-void RichTextView::FindNext(bool backward) { FindFrom(Caret(), backward); }
 
 void RichTextView::FindFrom(QTextCursor from, bool backward) {
   if (find_bar_ == nullptr) return;
@@ -562,11 +558,14 @@ void RichTextView::PlaceSheet() {
   const QRectF paper(-margin, -kPaperMargin, RichTextLayout::kColumnWidth + 2 * margin,
                      std::max(text_height_ + 2 * kPaperMargin, std::floor(height)));
   const QRectF before = std::exchange(paper_, paper);
+  QScrollBar& down = *verticalScrollBar();
+  const bool at_top = down.value() == down.minimum();
   setTransform(QTransform::fromScale(scale, scale));
   // Told, as the library would find out when it has painted once.
   const bool fits = paper.width() <= width;
   setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
   setSceneRect(paper_.adjusted(-ground, -ground, ground, ground));
+  if (at_top) down.setValue(down.minimum());
   const QRectF window = mapToScene(viewport()->rect()).boundingRect();
   if (paper.intersected(window) != before.intersected(window)) viewport()->update();
 }

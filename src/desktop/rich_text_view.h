@@ -30,7 +30,7 @@ class RichTextView : public QGraphicsView {
   // Follows the box no more and takes no more edits; what is shown stays.
   void Leave();
   // Shows at once what a handler that still runs has done to the box.
-  void Mirror();
+  void Mirror() { mirror_.ShowBox(); }
 
   // As shown. Its positions are those of the box, but for characters beyond U+FFFF, which Qt
   // counts double.
@@ -50,7 +50,7 @@ class RichTextView : public QGraphicsView {
   void Delete();
   void SelectAll();
   void OpenFindBar();
-  void FindNext(bool backward = false);
+  void FindNext(bool backward = false) { FindFrom(Caret(), backward); }
 
  protected:
   bool event(QEvent* event) override;
