@@ -115,6 +115,22 @@ TEST(DecodePicture, BrokenPicturesAreNone) {
   }
 }
 
+// Without a trace of what the memory held before.
+TEST(DecodePicture, ACutBitmapIsPlainWhereItsDotsAreMissing) {
+  const std::string whole = BitmapFile(300, 200);
+  const QImage image = DecodePicture(whole.substr(0, whole.size() / 2));
+  ASSERT_EQ(image.size(), QSize(300, 200));
+  EXPECT_EQ(image.pixelColor(150, 10), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(150, 190), QColor(Qt::red));
+  std::string palette = whole.substr(14, 40);
+  palette.replace(14, 2, LittleEndian(8, 2)).replace(32, 4, LittleEndian(2, 4));
+  palette += LittleEndian(0x0000FF, 4) + LittleEndian(0xFF0000, 4) + std::string(3000, 1);
+  const QImage few = DecodePicture(palette);
+  ASSERT_EQ(few.size(), QSize(300, 200));
+  EXPECT_EQ(few.pixelColor(150, 10), QColor(Qt::blue));
+  EXPECT_EQ(few.pixelColor(150, 199), QColor(Qt::red));
+}
+
 TEST(DecodePicture, NoDamageToAMetafileDoesHarm) {
   std::mt19937 draws(5);
   for (int i = 0; i < 300; ++i) {

@@ -25,12 +25,24 @@ namespace {
 
 constexpr int kDrawnSide = 2000;  // pixels of a drawing's longer side, for paper
 
+// Dots for a bitmap to be read into, since the decoder leaves those that a cut file lacks as it
+// finds them: white, or of the palette's first colour.
+QImage PlainDots(QImageReader& reader) {
+  constexpr qint64 kMostDots = 50'000'000;
+  const QSize size = reader.size();
+  if (reader.format() != "bmp" || qint64{size.width()} * size.height() > kMostDots) return {};
+  QImage dots(size, reader.imageFormat());
+  dots.fill(dots.depth() > 8 ? 0xFFFFFFFF : 0);
+  return dots;
+}
+
 QImage ReadByQt(const QByteArray& bytes) {
   QBuffer buffer;
   buffer.setData(bytes);
   QImageReader reader(&buffer);
   reader.setAutoTransform(true);
-  QImage largest = reader.read();
+  QImage largest = PlainDots(reader);
+  if (!reader.read(&largest)) largest = {};
   // An icon holds itself in several sizes.
   for (int i = 1; i < reader.imageCount() && !reader.supportsAnimation(); ++i) {
     if (!reader.jumpToImage(i)) break;
