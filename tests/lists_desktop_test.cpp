@@ -110,6 +110,30 @@ TEST_F(ListsDesktop, AForeignLetterIsPutBehindTheTextByTheKeysAlone) {
   EXPECT_EQ(TextOf("MakeNewList", "TheWord"), QString::fromUtf8("caf\xC3\xA9"));
 }
 
+TEST_F(ListsDesktop, TypingGoesOnBehindAForeignLetter) {
+  BeginNewList();
+  for (const char* part : {"", "t"}) {
+    TypeText(part);
+    ClickTool("MakeNewList", "Foreign");
+    Settle(200);
+    Widget<QSlider>("FLForm", "LScroll")->setValue(0xE9);
+    Click("FLForm", "FLButton", 0);
+    main().activateWindow();
+    Settle(200);
+  }
+  TypeText("s");
+  EXPECT_EQ(TextOf("MakeNewList", "TheWord"), QString::fromUtf8("\xC3\xA9t\xC3\xA9s"));
+  // In the middle the caret stays where it is.
+  Press(Qt::Key_Home);
+  ClickTool("MakeNewList", "Foreign");
+  Settle(200);
+  Click("FLForm", "FLButton", 0);
+  main().activateWindow();
+  Settle(200);
+  TypeText("x");
+  EXPECT_EQ(TextOf("MakeNewList", "TheWord"), QString::fromUtf8("x\xC3\xA9t\xC3\xA9sA"));
+}
+
 // --- A list under change.
 
 TEST_F(ListsDesktop, AWordIsAddedByTheKeysAlone) {

@@ -26,8 +26,12 @@ class TextBoxView : public ViewOf<TextBox> {
   void SyncState() override {
     const QString text = ToQString(box().Text);
     if (line().text() == text) return;
+    const QString before = line().text();
     const int caret = line().cursorPosition();
+    // Behind a letter that the program has put behind the text, typing goes on.
+    const bool lengthened = caret == before.size() && text.size() == caret + 1;
     line().setText(text);
+    if (lengthened && text.startsWith(before)) return;
     line().setCursorPosition(qMin(caret, static_cast<int>(text.size())));
   }
 
