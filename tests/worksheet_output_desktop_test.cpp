@@ -5,6 +5,7 @@
 #include <QPrintDialog>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <deque>
 
 #include "desktop/command_line.h"
@@ -224,6 +225,42 @@ TEST_F(OutputTest, TheDialogOffersAFileThatIsNotThereYet) {
   EXPECT_TRUE(offered_[0].endsWith("/Study Guide.pdf")) << offered_[0].toStdString();
   ClickTool("StudyGuideForm", "Print");
   EXPECT_EQ(offered_[1], Path("out/Study Guide 2.pdf"));
+}
+
+TEST_F(OutputTest, ASavedWorksheetIsPrintedToAFileOfItsName) {
+  std::filesystem::create_directory(folder_.Path() / "worksheets");
+  folder_.Write("worksheets/Planets Quiz.rtf", "{\\rtf1 Mars}");
+  Start();
+  OpenSaved(0);
+  Answer();
+  ClickTool("QuizForm", "Print");
+  EXPECT_EQ(QFileInfo(offered_.value(0)).fileName(), "Planets Quiz.pdf");
+}
+
+TEST_F(OutputTest, APrintDialogThatGrowsStaysOnTheScreen) {
+  GoToStudySheet(5);
+  StopWatching();
+  bool grown = false;
+  OnBoxes([&](QDialog& box) {
+    const QRect room = box.screen()->availableGeometry();
+    if (!grown) {
+      grown = true;
+      box.move(room.bottomLeft() - QPoint(0, box.frameGeometry().height()));
+      const auto buttons = box.findChildren<QPushButton*>();
+      const auto options = std::find_if(buttons.begin(), buttons.end(), [](const auto* button) {
+        return button->text().contains("Options");
+      });
+      ASSERT_NE(options, buttons.end());
+      const int before = box.height();
+      QTest::mouseClick(*options, Qt::LeftButton);
+      Settle(100);
+      EXPECT_GT(box.height(), before);
+      EXPECT_LE(box.frameGeometry().bottom(), room.bottom());
+    }
+    box.reject();
+  });
+  ClickTool("StudyGuideForm", "Print");
+  EXPECT_TRUE(grown);
 }
 
 TEST_F(OutputTest, AFileThatCannotBeWrittenIsRefusedByTheDialogItself) {

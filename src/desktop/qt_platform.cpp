@@ -81,6 +81,22 @@ QString ProgramFile(const std::string& path) {
   return QStandardPaths::findExecutable(name);
 }
 
+// A dialog that unfolds its options does not reach out of the screen.
+class OnScreen : public QObject {
+ public:
+  explicit OnScreen(QDialog& dialog) : QObject(&dialog) { dialog.installEventFilter(this); }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* dialog = qobject_cast<QDialog*>(watched);
+    if (dialog == nullptr || event->type() != QEvent::Resize || !dialog->isVisible()) return false;
+    const QRect room = dialog->screen()->availableGeometry();
+    const QRect frame = dialog->frameGeometry();
+    const int up = qMin(frame.bottom() - room.bottom(), frame.top() - room.top());
+    if (up > 0) dialog->move(dialog->pos() - QPoint(0, up));
+    return false;
+  }
+};
+
 // A file for what is printed that isn't there yet, in the folder of the last one.
 QString FreePdfFile(const QPrinter& printer) {
   QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -89,7 +105,9 @@ QString FreePdfFile(const QPrinter& printer) {
   } else if (!QFileInfo(folder).isDir()) {
     folder = QDir::homePath();
   }
-  const QString name = QString("%1/%2").arg(folder, QString(printer.docName()).replace('/', '-'));
+  QString title = printer.docName().replace('/', '-');
+  if (title.endsWith(".rtf", Qt::CaseInsensitive)) title.chop(4);  // a saved worksheet
+  const QString name = folder + "/" + title;
   QString file = name + ".pdf";
   for (int i = 2; QFileInfo::exists(file); ++i) file = QString("%1 %2.pdf").arg(name).arg(i);
   return file;
@@ -125,6 +143,7 @@ void QtPlatform::PrepareForBox() {
 
 bool QtPlatform::Run(QDialog& dialog) {
   PrepareForBox();
+  new OnScreen(dialog);
   return dialog.exec() == QDialog::Accepted;
 }
 
