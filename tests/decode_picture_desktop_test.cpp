@@ -8,9 +8,11 @@
 #include <string>
 
 #include "desktop/decode_picture.h"
+#include "desktop/other_thread.h"
 #include "desktop/picture_view.h"
 #include "desktop/style.h"
 #include "tests/bitmaps.h"
+#include "tests/file_bytes.h"
 
 namespace brindlepage {
 namespace {
@@ -193,6 +195,20 @@ TEST(DecodePicture, APhotographTakenOnItsSideStandsUprightInAnySize) {
   EXPECT_EQ(DecodePicture(bytes).size(), QSize(100, 200));
   EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::KeepAspectRatioByExpanding).size(), QSize(50, 50));
   EXPECT_EQ(DecodePicture(bytes, {50, 50}, Qt::IgnoreAspectRatio).size(), QSize(50, 50));
+}
+
+TEST(DecodePicture, PhotographsAreReadByOneThreadAfterAnother) {
+  const std::string bytes = FileBytes(PROGRAM_FOLDER "/titleback.jpg").value();
+  static QStringList warnings;
+  warnings.clear();
+  const auto before = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& message) { warnings << message; });
+  const QSize small(50, 50);
+  const auto read = [&] { return DecodePicture(bytes, small, Qt::IgnoreAspectRatio); };
+  EXPECT_EQ(InOtherThread(read).get().size(), small);
+  EXPECT_GT(DecodePicture(bytes).width(), small.width());
+  qInstallMessageHandler(before);
+  EXPECT_EQ(warnings, QStringList());
 }
 
 // Red on the left, blue on the right; `mark` makes it another file.

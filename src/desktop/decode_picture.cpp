@@ -2,10 +2,12 @@
 
 #include <QBuffer>
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QImageIOHandler>
 #include <QImageReader>
 #include <QLibrary>
 #include <QPluginLoader>
+#include <QThread>
 #include <QTransform>
 #include <QtEndian>
 #include <cstdlib>
@@ -61,6 +63,10 @@ std::unique_ptr<QImageIOHandler> PhotographDecoder(QIODevice& file) {
   QPluginLoader loader("imageformats/qjpeg");
   auto* plugin = qobject_cast<QImageIOPlugin*>(loader.instance());
   if (plugin == nullptr) return nullptr;
+  // All threads share it, and the one that made it may end.
+  if (plugin->thread() == QThread::currentThread()) {
+    plugin->moveToThread(QCoreApplication::instance()->thread());
+  }
   return std::unique_ptr<QImageIOHandler>(plugin->create(&file, "jpg"));
 }
 

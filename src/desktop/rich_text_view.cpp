@@ -32,18 +32,8 @@ namespace brindlepage {
 
 namespace {
 
-constexpr int kSmallestZoom = 30;
-constexpr int kLargestZoom = 400;
-constexpr int kNotch = 120;        // of a mouse wheel
-constexpr int kDragInterval = 40;  // milliseconds
-constexpr int kAtLeisure = 400;    // milliseconds
-
-// Dots of the layout.
-constexpr double kPaperMargin = 0.5 * RichTextLayout::kDotsPerInch;
-constexpr double kLeastMargin = kPaperMargin / 3;
-constexpr int kGround = 10;  // pixels around the sheet
-constexpr int kCaretWidth = 4;
-constexpr int kCaretHeight = 48;  // where there is no line yet
+constexpr int kAtLeisure = 400;   // milliseconds
+constexpr int kFindBarRoom = 10;  // pixels
 
 constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwipsPerDot;
 
@@ -106,44 +96,26 @@ class RichTextView::Sheet : public QGraphicsTextItem {
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
-    : QGraphicsView(parent), sheet_(new Sheet(*this)), mirror_(box, *sheet_, runtime) {
+    : PaperView(parent), sheet_(new Sheet(*this)), mirror_(box, *sheet_, runtime) {
   setObjectName(QString::fromStdString(box.Name()));
-  setFrameShape(QFrame::NoFrame);
-  setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  setResizeAnchor(QGraphicsView::NoAnchor);
-  setBackgroundRole(QPalette::Base);
-  viewport()->setCursor(Qt::IBeamCursor);
-
-  document().documentLayout()->setProperty("cursorWidth", kCaretWidth);
   sheet_->setTextInteractionFlags(Qt::TextEditorInteraction);
   sheet_->setDefaultTextColor(Qt::black);
-  scene_.setItemIndexMethod(QGraphicsScene::NoIndex);
-  scene_.setStickyFocus(true);
-  scene_.addItem(sheet_);
-  setScene(&scene_);
-  scene_.setFocusItem(sheet_);
-
-  // The item takes all the room that a text can need, once and for all. Otherwise it would be
-  // painted anew with each step in which a long text is laid out, and no further than that.
-  QAbstractTextDocumentLayout* layout = document().documentLayout();
-  emit layout->documentSizeChanged(RichTextLayout::kPage);
-  disconnect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, nullptr, nullptr);
-  connect(layout, &QAbstractTextDocumentLayout::documentSizeChanged, this, &RichTextView::LaidOut);
+  SetText(sheet_);
   connect(&mirror_, &RichTextMirror::StartShown, this, &RichTextView::ScrollToTop);
-  LaidOut(document().size());
   // A key is ready when it is asked for.
   QTimer::singleShot(kAtLeisure, this, &RichTextView::Mirror);
 }
 
-RichTextView::~RichTextView() { Leave(); }
+RichTextView::~RichTextView() {
+  Leave();
+  DeleteText();
+}
 
 void RichTextView::Leave() {
   if (mirror_.box() == nullptr) return;
   mirror_.Leave();
   sheet_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
-
-QTextCursor RichTextView::Caret() const { return sheet_->textCursor(); }
 
 // --- The teacher's commands
 
@@ -267,7 +239,7 @@ bool RichTextView::TypeText(QKeyEvent* event) {
 void RichTextView::MoveCaret(const QTextCursor& cursor) {
   const QScopedValueRollback<bool> guard(moving_caret_, true);
   sheet_->setTextCursor(cursor);
-  ensureVisible(CaretRect(cursor), 0, kGround);
+  ScrollTo(cursor);
   mirror_.TakeCaret();
 }
 
@@ -372,7 +344,7 @@ bool RichTextView::event(QEvent* event) {
       return true;
     }
   }
-  return QGraphicsView::event(event);
+  return PaperView::event(event);
 }
 
 void RichTextView::keyPressEvent(QKeyEvent* event) {
@@ -391,7 +363,7 @@ void RichTextView::keyPressEvent(QKeyEvent* event) {
   } else if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
     MovePage(event->key() == Qt::Key_PageUp, select);
   } else {
-    scene_.sendEvent(sheet_, event);
+    scene()->sendEvent(sheet_, event);
     // With the paper's edge.
     if (event->matches(QKeySequence::MoveToStartOfDocument)) ScrollToTop();
   }
@@ -402,76 +374,16 @@ bool RichTextView::focusNextPrevChild(bool) { return false; }
 
 // --- The mouse
 
-// The point of the column that is nearest, so that a click beside the text is one into it.
-QPoint RichTextView::IntoColumn(const QPoint& point) const {
-  // By a pixel, since the point is rounded to one.
-  const double pixel = 1 / PixelsPerDot();
-  const QRectF column = QRectF(0, 0, RichTextLayout::kColumnWidth, text_height_)
-                            .adjusted(pixel, pixel, -pixel, -pixel);
-  const QPointF from = mapToScene(point);
-  const QPointF inside(std::clamp(from.x(), column.left(), column.right()),
-                       std::clamp(from.y(), column.top(), column.bottom()));
-  return mapFromScene(inside);
-}
-
-QMouseEvent RichTextView::InsideColumn(const QMouseEvent& event) const {
-  const QPoint point = IntoColumn(event.pos());
-  return QMouseEvent(event.type(), point, viewport()->mapToGlobal(point), event.button(),
-                     event.buttons(), event.modifiers());
-}
-
-void RichTextView::mousePressEvent(QMouseEvent* event) {
-  QMouseEvent inside = InsideColumn(*event);
-  QGraphicsView::mousePressEvent(&inside);
-}
-
-void RichTextView::mouseDoubleClickEvent(QMouseEvent* event) {
-  QMouseEvent inside = InsideColumn(*event);
-  QGraphicsView::mouseDoubleClickEvent(&inside);
-}
-
-// A selection that is drawn beyond the edge scrolls on.
-void RichTextView::mouseMoveEvent(QMouseEvent* event) {
-  QGraphicsView::mouseMoveEvent(event);
-  drag_point_ = event->pos();
-  const bool outside =
-      event->buttons().testFlag(Qt::LeftButton) && !viewport()->rect().contains(drag_point_);
-  if (!outside) {
-    drag_timer_.stop();
-  } else if (!drag_timer_.isActive()) {
-    drag_timer_.start(kDragInterval, this);
-  }
-}
-
-void RichTextView::timerEvent(QTimerEvent* event) {
-  if (event->timerId() != drag_timer_.timerId()) return QGraphicsView::timerEvent(event);
-  const auto beyond = [](int at, int end) { return std::min(at, 0) + std::max(at - end, 0); };
-  QScrollBar& across = *horizontalScrollBar();
-  QScrollBar& down = *verticalScrollBar();
-  across.setValue(across.value() + beyond(drag_point_.x(), viewport()->width()) / 2);
-  down.setValue(down.value() + beyond(drag_point_.y(), viewport()->height()) / 2);
-  QMouseEvent move(QEvent::MouseMove, drag_point_, viewport()->mapToGlobal(drag_point_),
-                   Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-  QGraphicsView::mouseMoveEvent(&move);
-}
-
+// The middle button pastes what was selected last.
 void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
-  drag_timer_.stop();
+  PaperView::mouseReleaseEvent(event);
   const QClipboard& clipboard = *QApplication::clipboard();
   if (event->button() != Qt::MiddleButton || !clipboard.supportsSelection()) {
-    return QGraphicsView::mouseReleaseEvent(event);
+    return;
   }
   if (const QMimeData* mime = clipboard.mimeData(QClipboard::Selection)) {
     Drop(*mime, mapToScene(IntoColumn(event->pos())), false, false);
   }
-}
-
-void RichTextView::wheelEvent(QWheelEvent* event) {
-  if (!event->modifiers().testFlag(Qt::ControlModifier)) return QGraphicsView::wheelEvent(event);
-  wheel_turned_ += event->angleDelta().y();
-  Zoom(zoom_ + 10 * (wheel_turned_ / kNotch));
-  wheel_turned_ %= kNotch;
-  event->accept();
 }
 
 void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
@@ -502,122 +414,33 @@ void RichTextView::contextMenuEvent(QContextMenuEvent* event) {
 
 // --- What it looks like
 
-QRectF RichTextView::CaretRect(const QTextCursor& cursor) const {
-  const QTextBlock block = cursor.block();
-  // Lays it out if that has not come to it yet.
-  const QPointF origin = document().documentLayout()->blockBoundingRect(block).topLeft();
-  const QTextLayout& layout = *block.layout();
-  const QTextLine line = layout.lineForTextPosition(cursor.positionInBlock());
-  if (!line.isValid()) return {origin, QSizeF(kCaretWidth, kCaretHeight)};
-  const QPointF place(line.cursorToX(cursor.positionInBlock()), line.y());
-  return {origin + place, QSizeF(kCaretWidth, line.height())};
-}
-
 int RichTextView::PositionAt(const QPointF& point) const {
   return mirror_.positions().FromQt(document().documentLayout()->hitTest(point, Qt::FuzzyHit));
-}
-
-double RichTextView::PixelsPerDot() const {
-  return logicalDpiX() * zoom_ / 100.0 / RichTextLayout::kDotsPerInch;
-}
-
-void RichTextView::Zoom(int percent) {
-  percent = std::clamp(percent, kSmallestZoom, kLargestZoom);
-  if (percent == zoom_) return;
-  zoom_ = percent;
-  PlaceSheet();
-}
-
-// The rest of a long document may still have to be laid out, but never what is in the window.
-void RichTextView::LaidOut(const QSizeF& so_far) {
-  const double bottom = mapToScene(viewport()->rect()).boundingRect().bottom();
-  const int shown_end = document().documentLayout()->hitTest(
-      QPointF(RichTextLayout::kColumnWidth, bottom), Qt::FuzzyHit);
-  const bool ends_there = shown_end >= document().characterCount() - 1;
-  const double height = ends_there ? document().size().height() : std::max(so_far.height(), bottom);
-  const double height_before = std::exchange(text_height_, height);
-  PlaceSheet();
-  // A caret that went to what was not laid out could not be scrolled to.
-  const QTextCursor caret = Caret();
-  if (caret.isNull() || caret.hasSelection() || caret.atStart()) return;
-  if (const QRectF place = CaretRect(caret); place.bottom() > height_before) {
-    ensureVisible(place, 0, kGround);
-  }
-}
-
-// The sheet is as high as its text, or as the window when that is more; its margins give way in a
-// narrow window before the column has to be scrolled.
-void RichTextView::PlaceSheet() {
-  const double scale = PixelsPerDot();
-  const double ground = kGround / scale;
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-  const double width = (this->width() - bar) / scale - 2 * ground;
-  const double height = (this->height() - 1) / scale - 2 * ground;
-  const double margin =
-      std::clamp((width - RichTextLayout::kColumnWidth) / 2, kLeastMargin, kPaperMargin);
-  const QRectF paper(-margin, -kPaperMargin, RichTextLayout::kColumnWidth + 2 * margin,
-                     std::max(text_height_ + 2 * kPaperMargin, std::floor(height)));
-  const QRectF before = std::exchange(paper_, paper);
-  QScrollBar& down = *verticalScrollBar();
-  const bool at_top = down.value() == down.minimum();
-  setTransform(QTransform::fromScale(scale, scale));
-  // Told, as the library would find out when it has painted once.
-  const bool fits = paper.width() <= width;
-  setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAlwaysOn);
-  setSceneRect(paper_.adjusted(-ground, -ground, ground, ground));
-  if (at_top) down.setValue(down.minimum());
-  const QRectF window = mapToScene(viewport()->rect()).boundingRect();
-  if (paper.intersected(window) != before.intersected(window)) viewport()->update();
-}
-
-void RichTextView::ScrollToTop() {
-  horizontalScrollBar()->setValue(horizontalScrollBar()->minimum());
-  verticalScrollBar()->setValue(verticalScrollBar()->minimum());
 }
 
 void RichTextView::PlaceFindBar() {
   if (find_bar_ == nullptr) return;
   find_bar_->adjustSize();
-  find_bar_->move(viewport()->geometry().right() - find_bar_->width() - kGround,
-                  viewport()->geometry().top() + kGround);
+  find_bar_->move(viewport()->geometry().right() - find_bar_->width() - kFindBarRoom,
+                  viewport()->geometry().top() + kFindBarRoom);
 }
 
 void RichTextView::showEvent(QShowEvent* event) {
   Mirror();
-  QGraphicsView::showEvent(event);
-}
-
-// A scene counts what makes it active, and loses count when a hidden page's sheet is hidden.
-bool RichTextView::viewportEvent(QEvent* event) {
-  const auto type = event->type();
-  const bool of_window = type == QEvent::WindowActivate || type == QEvent::WindowDeactivate;
-  const bool counted = of_window || type == QEvent::Show || type == QEvent::Hide;
-  if (!counted) return QGraphicsView::viewportEvent(event);
-  const bool active = isVisible() && isActiveWindow();
-  QEvent change(active ? QEvent::WindowActivate : QEvent::WindowDeactivate);
-  if (active != scene_.isActive()) QApplication::sendEvent(&scene_, &change);
-  return QAbstractScrollArea::viewportEvent(event);
+  PaperView::showEvent(event);
 }
 
 // What the program wrote while the sheet took no input is no deed of the teacher's.
 void RichTextView::changeEvent(QEvent* event) {
-  QGraphicsView::changeEvent(event);
+  PaperView::changeEvent(event);
   if (event->type() != QEvent::EnabledChange || !isEnabled()) return;
   Mirror();
   mirror_.layout().document().clearUndoRedoStacks();
 }
 
 void RichTextView::resizeEvent(QResizeEvent* event) {
-  QGraphicsView::resizeEvent(event);
-  PlaceSheet();
+  PaperView::resizeEvent(event);
   PlaceFindBar();
-}
-
-void RichTextView::drawBackground(QPainter* painter, const QRectF& exposed) {
-  painter->fillRect(exposed, palette::kPaperShade);
-  painter->fillRect(paper_.intersected(exposed), Qt::white);
-  painter->setPen(QPen(palette::kPale, 0));
-  painter->drawRect(paper_);
 }
 
 }  // namespace brindlepage

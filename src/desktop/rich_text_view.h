@@ -1,9 +1,6 @@
 #pragma once
 
-#include <QBasicTimer>
-#include <QGraphicsScene>
-#include <QGraphicsView>
-
+#include "desktop/paper_view.h"
 #include "desktop/rich_text_mirror.h"
 #include "toolkit/runtime.h"
 #include "worksheet/rich_text_box.h"
@@ -15,11 +12,11 @@ namespace brindlepage {
 
 class RichTextFindBar;
 
-// The face of a rich text box: a white sheet with the text column of 7.5 inches, on which a
-// teacher types, selects, copies and pastes, undoes, zooms and finds.
+// The face of a rich text box: a sheet on which a teacher types, selects, copies and pastes,
+// undoes, zooms and finds.
 //
 // A RichTextMirror keeps what is shown and the box alike.
-class RichTextView : public QGraphicsView {
+class RichTextView : public PaperView {
   Q_OBJECT
 
  public:
@@ -31,15 +28,6 @@ class RichTextView : public QGraphicsView {
   void Leave();
   // Shows at once what a handler that still runs has done to the box.
   void Mirror() { mirror_.ShowBox(); }
-
-  // As shown. Its positions are those of the box, but for characters beyond U+FFFF, which Qt
-  // counts double.
-  const QTextDocument& document() const { return mirror_.layout().document(); }
-  QTextCursor Caret() const;
-
-  // Per cent of the true size, 30 to 400.
-  int Zoom() const { return zoom_; }
-  void Zoom(int percent);
 
   // What the keys and the context menu do.
   void Undo();
@@ -56,18 +44,11 @@ class RichTextView : public QGraphicsView {
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool focusNextPrevChild(bool next) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
-  void wheelEvent(QWheelEvent* event) override;
-  void timerEvent(QTimerEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  bool viewportEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
-  void drawBackground(QPainter* painter, const QRectF& exposed) override;
 
  private:
   class Sheet;
@@ -79,14 +60,14 @@ class RichTextView : public QGraphicsView {
   void GoThroughChanges(void (QTextDocument::*step)(QTextCursor*));
   void FindForward() { FindNext(false); }
   void FindBackward() { FindNext(true); }
-  void ZoomIn() { Zoom(zoom_ + 10); }
-  void ZoomOut() { Zoom(zoom_ - 10); }
+  void ZoomIn() { Zoom(Zoom() + 10); }
+  void ZoomOut() { Zoom(Zoom() - 10); }
   void ZoomToTrueSize() { Zoom(100); }
   void ToggleBold();
   void ToggleItalic();
   void ToggleUnderline();
-  void LeaveForward() { QGraphicsView::focusNextPrevChild(true); }
-  void LeaveBackward() { QGraphicsView::focusNextPrevChild(false); }
+  void LeaveForward() { PaperView::focusNextPrevChild(true); }
+  void LeaveBackward() { PaperView::focusNextPrevChild(false); }
   void Insert(const QMimeData& mime);
   void Drop(const QMimeData& mime, const QPointF& point, bool own, bool move);
   void MovePage(bool up, bool select);
@@ -95,28 +76,13 @@ class RichTextView : public QGraphicsView {
   void MakeFindBar();
   void CloseFindBar();
 
-  QRectF CaretRect(const QTextCursor& cursor) const;  // dots, in the column
-  int PositionAt(const QPointF& point) const;         // of the box
-  double PixelsPerDot() const;
-  void LaidOut(const QSizeF& so_far);  // dots
-  void PlaceSheet();
-  void ScrollToTop();
+  int PositionAt(const QPointF& point) const;  // of the box
   void PlaceFindBar();
-  QPoint IntoColumn(const QPoint& point) const;
-  QMouseEvent InsideColumn(const QMouseEvent& event) const;
 
-  Sheet* sheet_;  // the scene's
+  Sheet* sheet_;
   RichTextMirror mirror_;
-  QGraphicsScene scene_;
   RichTextFindBar* find_bar_ = nullptr;  // made when it is first opened
-
-  bool moving_caret_ = false;  // the sheet's is ahead of the box's until it is taken over
-  int zoom_ = 100;
-  int wheel_turned_ = 0;
-  double text_height_ = 0;  // dots
-  QRectF paper_;
-  QBasicTimer drag_timer_;
-  QPoint drag_point_;
+  bool moving_caret_ = false;            // the sheet's is ahead of the box's until it is taken over
 };
 
 // Prints `length` characters from `start`, or with a length of 0 or less the whole document: the
