@@ -141,6 +141,47 @@ class Paintings : public QObject {
   QWidget& widget_;
 };
 
+TEST_F(ALongSheet, IsStillLaidOutByAndByWhenTheFocusComesBackAndAfterAnUndo) {
+  AwaitLayout();
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_B, Qt::ControlModifier);
+  EXPECT_FALSE(LastLineIsLaidOut());
+  view->clearFocus();
+  view->setFocus();
+  EXPECT_FALSE(LastLineIsLaidOut());
+  AwaitLayout();
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_FALSE(LastLineIsLaidOut());
+  EXPECT_EQ(box().SelBold(), false);
+}
+
+TEST_F(AnOpenSheet, TheCaretBlinksAgainOnceNothingIsSelected) {
+  view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+  Compose([](RichTextBox& box) { box.SelText("one two"); });
+  const auto caret_shows = [this] {
+    const QTextCursor caret = view->Caret();
+    const QTextLine line = caret.block().layout()->lineAt(0);
+    const QPointF at(line.cursorToX(caret.positionInBlock()) + 2, line.height() / 2);
+    const QImage seen = view->viewport()->grab().toImage();
+    return seen.pixelColor(view->mapFromScene(at)).value() < 128;
+  };
+  PutCaret(7);
+  EXPECT_TRUE(QTest::qWaitFor(caret_shows));
+  PutCaret(0, 7);
+  view->clearFocus();
+  view->setFocus();
+  PutCaret(7);
+  EXPECT_TRUE(QTest::qWaitFor(caret_shows));
+  PutCaret(0, 7);
+  view->clearFocus();
+  PutCaret(7);
+  QTest::qWait(100);
+  EXPECT_FALSE(QTest::qWaitFor(caret_shows, 1200));
+  view->setFocus();
+  EXPECT_TRUE(QTest::qWaitFor(caret_shows));
+}
+
 TEST_F(ALongSheet, IsPaintedOnceAndWholeWhenAllOfItIsFormatted) {
   AwaitLayout();
   Key(Qt::Key_A, Qt::ControlModifier);

@@ -48,6 +48,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override {
     if (textCursor().hasSelection() && !dragged_over_) return PaintSelected(*painter, *option);
+    if (hasFocus() != focus_told_) QTimer::singleShot(0, this, &Sheet::TellFocus);
     QStyleOptionGraphicsItem plain = *option;
     plain.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);  // no frame
     QGraphicsTextItem::paint(painter, &plain, widget);
@@ -59,6 +60,9 @@ class RichTextView::Sheet : public QGraphicsTextItem {
     if (event->type() == QEvent::GraphicsSceneDragEnter) dragged_over_ = true;
     if (event->type() == QEvent::GraphicsSceneDragLeave) dragged_over_ = false;
     if (event->type() == QEvent::GraphicsSceneDrop) dragged_over_ = false;
+    const bool of_focus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+    if (of_focus && textCursor().hasSelection()) return true;
+    if (of_focus) focus_told_ = event->type() == QEvent::FocusIn;
     if (view_.moving_caret_) return QGraphicsTextItem::sceneEvent(event);
     view_.mirror_.ShowBox();
     const QScopedValueRollback<bool> guard(view_.moving_caret_, true);
@@ -91,8 +95,18 @@ class RichTextView::Sheet : public QGraphicsTextItem {
     document()->documentLayout()->draw(&painter, context);
   }
 
+  // The focus shows in the caret alone, which a selection has none of. The library would paint all
+  // that is selected, and for that lay out a long document whole.
+  void TellFocus() {
+    if (textCursor().hasSelection() || hasFocus() == focus_told_) return;
+    focus_told_ = hasFocus();
+    QFocusEvent change(focus_told_ ? QEvent::FocusIn : QEvent::FocusOut);
+    QGraphicsTextItem::sceneEvent(&change);
+  }
+
   RichTextView& view_;
   bool dragged_over_ = false;
+  bool focus_told_ = false;  // to the library's text
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
@@ -119,17 +133,25 @@ void RichTextView::Leave() {
 
 // --- The teacher's commands
 
-void RichTextView::Undo() { GoThroughChanges(&QTextDocument::undo); }
+void RichTextView::Undo() { GoThroughChanges(qOverload<>(&QTextDocument::undo)); }
 
-void RichTextView::Redo() { GoThroughChanges(&QTextDocument::redo); }
+void RichTextView::Redo() { GoThroughChanges(qOverload<>(&QTextDocument::redo)); }
 
-// The caret goes where text was changed; where only its format was, the selection stays.
-void RichTextView::GoThroughChanges(void (QTextDocument::*step)(QTextCursor*)) {
+// The caret goes behind the text that was changed; where only its format was, the selection stays.
+// (The library's own place would have a long document laid out to its end.)
+void RichTextView::GoThroughChanges(void (QTextDocument::*step)()) {
   Mirror();
-  const int length = document().characterCount();
-  QTextCursor changed = Caret();
-  (mirror_.layout().document().*step)(&changed);
-  if (document().characterCount() != length) MoveCaret(changed);
+  QTextDocument& text = mirror_.layout().document();
+  const int length = text.characterCount();
+  int place = 0;
+  const auto noting = connect(&text, &QTextDocument::contentsChange, this,
+                              [&place](int position, int, int added) { place = position + added; });
+  (text.*step)();
+  disconnect(noting);
+  if (text.characterCount() == length) return;
+  QTextCursor changed(&text);
+  changed.setPosition(std::min(place, text.characterCount() - 1));
+  MoveCaret(changed);
 }
 
 void RichTextView::Cut() {

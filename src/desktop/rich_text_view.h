@@ -57,7 +57,7 @@ class RichTextView : public PaperView {
   using Command = void (RichTextView::*)();
   static Command CommandOf(const QKeyEvent& event);
   bool TypeText(QKeyEvent* event);
-  void GoThroughChanges(void (QTextDocument::*step)(QTextCursor*));
+  void GoThroughChanges(void (QTextDocument::*step)());
   void FindForward() { FindNext(false); }
   void FindBackward() { FindNext(true); }
   void ZoomIn() { Zoom(Zoom() + 10); }
