@@ -3,15 +3,56 @@
 #include <QBuffer>
 #include <QImage>
 #include <QString>
-#include <QTextDocumentFragment>
+#include <QStringList>
 #include <QUrl>
+#include <QVariant>
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include "toolkit/platform.h"
+#include "worksheet/pasted_rtf.h"
+#include "worksheet/rtf_writer.h"
 
 namespace brindlepage {
 
 namespace {
+
+constexpr QLatin1String kHtml("text/html");
+constexpr QLatin1String kPlain("text/plain");
+
+// Rich text as desktops name it; the last is Qt's word for the name on Windows.
+constexpr const char* kRtf[] = {"text/rtf", "application/rtf", "text/richtext",
+                                "application/x-qt-windows-mime;value=\"Rich Text Format\""};
+constexpr char32_t kPicture = 0xFFFC;
+
+bool IsRtf(const QString& format) {
+  return std::any_of(std::begin(kRtf), std::end(kRtf),
+                     [&](const char* name) { return format == QLatin1String(name); });
+}
+
+bool HasRtf(const QMimeData& data) {
+  const QStringList formats = data.formats();
+  return std::any_of(formats.begin(), formats.end(), IsRtf);
+}
+
+QByteArray RtfOf(const QMimeData& data) {
+  for (const char* const name : kRtf) {
+    const QByteArray bytes = data.data(QString::fromLatin1(name));
+    if (!bytes.isEmpty()) return bytes;
+  }
+  return {};
+}
+
+QString WordsOf(const RichContent& stretch) {
+  std::u32string words = stretch.text;
+  std::erase(words, kPicture);
+  return QString::fromStdU32String(words);
+}
 
 std::shared_ptr<const RichPicture> PictureOf(const QImage& image, int widest) {
   QByteArray bytes;
@@ -27,15 +68,25 @@ std::shared_ptr<const RichPicture> PictureOf(const QImage& image, int widest) {
   return picture;
 }
 
-// Addresses of files are no text, though the library would give them for it. A line break within a
-// paragraph ends it here.
-std::u32string PlainText(const QMimeData& data) {
-  QString words;
-  if (data.hasFormat("text/plain")) {
-    words = data.text();
-  } else if (data.hasHtml()) {
+// Addresses of files are no text, though the library would give them for it.
+QString PlainWords(const QMimeData& data) {
+  return data.hasFormat(kPlain) ? data.text() : QString();
+}
+
+std::optional<RichContent> RichWords(const QMimeData& data, int widest) {
+  if (!HasRtf(data)) return std::nullopt;
+  const QByteArray rtf = RtfOf(data);
+  return PastedRtf({rtf.data(), static_cast<std::size_t>(rtf.size())},
+                   PlainWords(data).toStdU32String(), widest);
+}
+
+// A line break within a paragraph ends it here. Blanks beside a picture are no words.
+std::u32string Words(const QMimeData& data) {
+  QString words = PlainWords(data);
+  if (words.isEmpty() && data.hasHtml()) {
     words = QTextDocumentFragment::fromHtml(data.html()).toPlainText();
   }
+  if (data.hasImage() && words.trimmed().isEmpty()) return {};
   std::u32string text = words.toStdU32String();
   std::replace(text.begin(), text.end(), char32_t{QChar::LineSeparator}, U'\n');
   return text;
@@ -50,49 +101,32 @@ QImage ImageOf(const QMimeData& data) {
 
 }  // namespace
 
-RichTextMimeData::RichTextMimeData(const RichText& text, int start, int end) {
-  std::u32string plain;
-  const CharFormat* before = nullptr;
-  for (int i = start; i < end; ++i) {
-    const CharFormat& format = text.FormatAt(i);
-    if (&format != before) runs_.push_back({{}, format});
-    before = &format;
-    const char32_t c = text.CharacterAt(i);
-    runs_.back().text.push_back(c);
-    if (c == U'\n') alignments_.push_back(text.AlignmentAt(i));
-    if (!format.picture) plain.push_back(c);
-  }
-  setText(QString::fromStdU32String(plain));
+RichTextMimeData::RichTextMimeData(RichContent stretch, QTextDocumentFragment shown)
+    : stretch_(std::move(stretch)), shown_(std::move(shown)) {}
+
+QStringList RichTextMimeData::formats() const {
+  QStringList formats;
+  for (const char* const name : kRtf) formats << QString::fromLatin1(name);
+  return formats << kHtml << kPlain;
 }
 
-void RichTextMimeData::InsertInto(RichText& text) const {
-  const int start = text.SelStart();
-  const bool opens_paragraph = start == 0 || text.CharacterAt(start - 1) == U'\n';
-  text.Replace(start, text.SelLength(), {}, text.CaretFormat());
-  int end = start;
-  for (const Run& run : runs_) {
-    text.Replace(end, 0, run.text, run.format);
-    end += static_cast<int>(run.text.size());
-  }
-  // A first paragraph that is only joined to what stands there takes the alignment of that.
-  std::size_t paragraph = 0;
-  for (int i = start; i < end; ++i) {
-    if (text.CharacterAt(i) != U'\n') continue;
-    if (paragraph > 0 || opens_paragraph) text.Align(i, 1, alignments_[paragraph]);
-    ++paragraph;
-  }
-  text.SelStart(end);
+QVariant RichTextMimeData::retrieveData(const QString& format, QMetaType) const {
+  if (format == kPlain) return WordsOf(stretch_);
+  if (format == kHtml) return shown_.toHtml();
+  if (IsRtf(format)) return QByteArray::fromStdString(WriteRtfStretch(stretch_));
+  return {};
 }
 
 bool CanInsertMimeData(const QMimeData& data) {
-  return qobject_cast<const RichTextMimeData*>(&data) != nullptr || data.hasText() ||
-         data.hasHtml() || data.hasImage();
+  return HasRtf(data) || data.hasText() || data.hasHtml() || data.hasImage();
 }
 
 void InsertMimeData(RichText& text, const QMimeData& data, int widest) {
   if (const auto* own = qobject_cast<const RichTextMimeData*>(&data)) {
-    own->InsertInto(text);
-  } else if (const std::u32string words = PlainText(data); !words.empty()) {
+    text.SelContent(own->Stretch());
+  } else if (const auto stretch = RichWords(data, widest)) {
+    text.SelContent(*stretch);
+  } else if (const std::u32string words = Words(data); !words.empty()) {
     text.SelUnicode(words);
   } else if (const QImage image = ImageOf(data); !image.isNull()) {
     text.InsertPicture(PictureOf(image, widest));

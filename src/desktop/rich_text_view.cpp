@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDrag>
 #include <QGraphicsSceneDragDropEvent>
+#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsTextItem>
 #include <QKeyEvent>
 #include <QMenu>
@@ -75,6 +77,33 @@ class RichTextView::Sheet : public QGraphicsTextItem {
     if (!view_.TypeText(event)) QGraphicsTextItem::keyPressEvent(event);
   }
 
+  // The library would offer what is dragged in its own words.
+  void mousePressEvent(QGraphicsSceneMouseEvent* event) override {
+    const auto selected = [this] {
+      const QTextCursor cursor = textCursor();
+      return std::pair(cursor.selectionStart(), cursor.selectionEnd());
+    };
+    const auto before = selected();
+    QGraphicsTextItem::mousePressEvent(event);
+    may_drag_ =
+        event->button() == Qt::LeftButton && textCursor().hasSelection() && selected() == before;
+  }
+
+  void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override {
+    if (!may_drag_ || !event->buttons().testFlag(Qt::LeftButton)) {
+      return QGraphicsTextItem::mouseMoveEvent(event);
+    }
+    const QPoint way = event->screenPos() - event->buttonDownScreenPos(Qt::LeftButton);
+    if (way.manhattanLength() < QApplication::startDragDistance()) return;
+    may_drag_ = false;
+    view_.DragSelection();
+  }
+
+  void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override {
+    may_drag_ = false;
+    QGraphicsTextItem::mouseDoubleClickEvent(event);
+  }
+
   void dropEvent(QGraphicsSceneDragDropEvent* event) override {
     QGraphicsSceneDragDropEvent leave(QEvent::GraphicsSceneDragLeave);
     QGraphicsTextItem::dragLeaveEvent(&leave);  // takes the drop's caret away
@@ -107,6 +136,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   RichTextView& view_;
   bool dragged_over_ = false;
   bool focus_told_ = false;  // to the library's text
+  bool may_drag_ = false;  // the mouse was pressed on the selection
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
@@ -161,11 +191,30 @@ void RichTextView::Cut() {
 
 void RichTextView::Copy() {
   Mirror();
+  if (QMimeData* mime = CopyOfSelection()) QApplication::clipboard()->setMimeData(mime);
+}
+
+QMimeData* RichTextView::CopyOfSelection() const {
   const RichTextBox* box = mirror_.box();
-  if (box == nullptr || box->SelLength() == 0) return;
-  auto* mime = new RichTextMimeData(*box, box->SelStart(), box->SelStart() + box->SelLength());
-  mime->setHtml(Caret().selection().toHtml());
-  QApplication::clipboard()->setMimeData(mime);
+  if (box == nullptr || box->SelLength() == 0) return nullptr;
+  return new RichTextMimeData(box->Content(box->SelStart(), box->SelLength()), Caret().selection());
+}
+
+// To a middle click, in place of what the library offers.
+void RichTextView::OfferSelection() {
+  QClipboard& clipboard = *QApplication::clipboard();
+  if (!clipboard.supportsSelection()) return;
+  if (QMimeData* mime = CopyOfSelection()) clipboard.setMimeData(mime, QClipboard::Selection);
+}
+
+// A move within the sheet is done whole by the drop.
+void RichTextView::DragSelection() {
+  QMimeData* const mime = CopyOfSelection();
+  if (mime == nullptr) return;
+  auto* const drag = new QDrag(viewport());
+  drag->setMimeData(mime);
+  const Qt::DropAction done = drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+  if (done == Qt::MoveAction && drag->target() != viewport()) Delete();
 }
 
 void RichTextView::Paste() {
@@ -208,14 +257,14 @@ void RichTextView::Drop(const QMimeData& mime, const QPointF& point, bool own, b
     const int start = text.SelStart();
     const int length = text.SelLength();
     if (target >= start && target <= start + length) return;
-    const RichTextMimeData dragged(text, start, start + length);
+    const RichContent dragged = text.Content(start, length);
     int place = target;
     if (move) {
       text.Replace(start, length, {}, text.CaretFormat());
       if (target > start) place -= length;
     }
     text.SelStart(place);
-    dragged.InsertInto(text);
+    text.SelContent(dragged);
   });
 }
 
@@ -401,7 +450,7 @@ void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
   PaperView::mouseReleaseEvent(event);
   const QClipboard& clipboard = *QApplication::clipboard();
   if (event->button() != Qt::MiddleButton || !clipboard.supportsSelection()) {
-    return;
+    return OfferSelection();
   }
   if (const QMimeData* mime = clipboard.mimeData(QClipboard::Selection)) {
     Drop(*mime, mapToScene(IntoColumn(event->pos())), false, false);

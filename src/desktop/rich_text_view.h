@@ -68,6 +68,9 @@ class RichTextView : public PaperView {
   void ToggleUnderline();
   void LeaveForward() { PaperView::focusNextPrevChild(true); }
   void LeaveBackward() { PaperView::focusNextPrevChild(false); }
+  QMimeData* CopyOfSelection() const;  // null without a selection
+  void OfferSelection();
+  void DragSelection();
   void Insert(const QMimeData& mime);
   void Drop(const QMimeData& mime, const QPointF& point, bool own, bool move);
   void MovePage(bool up, bool select);

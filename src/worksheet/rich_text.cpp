@@ -73,6 +73,10 @@ CharFormat PlainFormat(std::string font, double points) {
   return format;
 }
 
+Alignment ParagraphAlignment(const RichContent& content, std::size_t paragraph) {
+  return paragraph < content.alignments.size() ? content.alignments[paragraph] : Alignment::Left;
+}
+
 void RequireNotNegative(int number) {
   if (number < 0) throw RunTimeError(Fault::InvalidCall);
 }
@@ -124,6 +128,26 @@ void RichText::SelText(std::string_view bytes) {
 void RichText::SelUnicode(std::u32string_view text) {
   Clean(text, false, incoming_);
   SpliceSelection(caret_format_);
+}
+
+void RichText::SelContent(const RichContent& content) {
+  const Stretch old = Selection();
+  const int start = old.position;
+  incoming_.clear();
+  Splice(old, caret_format_, caret_format_);
+  const Alignment there = AlignmentAt(start);
+  const bool opens = IsEdge(start - 1);
+
+  const int end = InsertSpans(start, content);
+  if (old.count == 0 && end == start) return;
+  const bool closes = IsEdge(end) && !IsEdge(end - 1);
+  if (!closes) SetAlignment(end, there);
+  if (opens && ParagraphStart(end) > start) SetAlignment(start, ParagraphAlignment(content, 0));
+  caret_ = end;
+  selected_ = 0;
+  caret_format_ = FormatAtCaret();
+  Report(&RichTextObserver::Replaced, start, old.count, end - start);
+  Report(&RichTextObserver::CaretMoved);
 }
 
 void RichText::InsertPicture(std::shared_ptr<const RichPicture> picture) {
@@ -299,22 +323,22 @@ void RichText::Clear() {
   SpliceAll(Alignment::Left);
 }
 
-RichContent RichText::Content() const {
+RichContent RichText::Content(int position, int count) const {
   constexpr std::size_t kUnused = static_cast<std::size_t>(-1);
+  const Stretch stretch = Cut(position, count);
   RichContent content;
-  content.text.resize(static_cast<std::size_t>(Length()));
-  content.alignments.reserve(static_cast<std::size_t>(line_ends_) + 1);
-  content.alignments.push_back(first_alignment_);
+  content.text.resize(static_cast<std::size_t>(stretch.count));
+  content.alignments.push_back(AlignmentAt(stretch.position));
   std::vector<std::size_t> indexes(formats_.size(), kUnused);
   char32_t* to = content.text.data();
-  for (int i = 0; i < Length();) {
+  for (int i = stretch.position; i < stretch.End();) {
     const std::uint32_t id = cells_[i].format;
     if (indexes[id] == kUnused) {
       indexes[id] = content.formats.size();
       content.formats.push_back(Format(id));
     }
     const int start = i;
-    for (; i < Length() && cells_[i].format == id; ++i) {
+    for (; i < stretch.End() && cells_[i].format == id; ++i) {
       const Cell cell = cells_[i];
       *to++ = cell.character;
       if (cell.character == kLineEnd) content.alignments.push_back(AlignmentBehind(i));
@@ -329,19 +353,8 @@ void RichText::Load(const RichContent& content) {
   const int removed = Length();
   cells_.Remove(0, removed);
   line_ends_ = 0;
-  auto next = content.alignments.begin();
-  const auto next_alignment = [&] {
-    return next == content.alignments.end() ? Alignment::Left : *next++;
-  };
-  first_alignment_ = next_alignment();
-
-  std::vector<std::uint32_t> ids;
-  for (const CharFormat& format : content.formats) ids.push_back(Intern(format));
-  std::u32string_view rest = content.text;
-  for (const RichContent::Span& span : content.spans) {
-    Append(rest.substr(0, span.length), ids[span.format], next_alignment);
-    rest.remove_prefix(span.length);
-  }
+  first_alignment_ = ParagraphAlignment(content, 0);
+  InsertSpans(0, content);
   caret_ = 0;
   selected_ = 0;
   caret_format_ = FormatAtCaret();
@@ -350,27 +363,41 @@ void RichText::Load(const RichContent& content) {
   if (before.position > 0 || before.count > 0) Report(&RichTextObserver::CaretMoved);
 }
 
+int RichText::InsertSpans(int position, const RichContent& content) {
+  std::vector<std::uint32_t> ids;
+  for (const CharFormat& format : content.formats) ids.push_back(Intern(format));
+  std::size_t paragraph = 0;
+  const auto next_alignment = [&] { return ParagraphAlignment(content, ++paragraph); };
+  std::u32string_view rest = content.text;
+  for (const RichContent::Span& span : content.spans) {
+    position = InsertSpan(position, rest.substr(0, span.length), ids[span.format], next_alignment);
+    rest.remove_prefix(span.length);
+  }
+  return position;
+}
+
 template <class NextAlignment>
-void RichText::Append(std::u32string_view text, std::uint32_t picture_format,
-                      NextAlignment next_alignment) {
+int RichText::InsertSpan(int position, std::u32string_view text, std::uint32_t picture_format,
+                         NextAlignment next_alignment) {
   const bool has_picture = Format(picture_format).picture != nullptr;
   const std::uint32_t text_format =
       has_picture ? InternWithoutPicture(Format(picture_format)) : picture_format;
-  const int start = Length();
-  Cell* const cells = cells_.Insert(start, static_cast<int>(text.size()));
+  const int room = static_cast<int>(text.size());
+  Cell* const cells = cells_.Insert(position, room);
   Cell* cell = cells;
   PutClean(text, has_picture, [&](char32_t c) {
-    Cell appended{.character = c & 0x1FFFFF, .alignment = 0, .format = text_format};
+    Cell inserted{.character = c & 0x1FFFFF, .alignment = 0, .format = text_format};
     if (c == kLineEnd) {
-      appended.alignment = static_cast<std::uint32_t>(next_alignment()) & 3;
+      inserted.alignment = static_cast<std::uint32_t>(next_alignment()) & 3;
       ++line_ends_;
     } else if (c == kPicture) {
-      appended.format = picture_format;
+      inserted.format = picture_format;
     }
-    *cell++ = appended;
+    *cell++ = inserted;
   });
-  const int length = start + static_cast<int>(cell - cells);
-  cells_.Remove(length, Length() - length);
+  const int inserted = static_cast<int>(cell - cells);
+  cells_.Remove(position + inserted, room - inserted);
+  return position + inserted;
 }
 
 // --- Observers
@@ -473,6 +500,19 @@ Alignment RichText::AlignmentBehind(int line_end) const {
 int RichText::ParagraphStart(int position) const {
   while (position > 0 && cells_[position - 1].character != kLineEnd) --position;
   return position;
+}
+
+bool RichText::IsEdge(int position) const {
+  return position < 0 || position == Length() || cells_[position].character == kLineEnd;
+}
+
+void RichText::SetAlignment(int position, Alignment alignment) {
+  const int start = ParagraphStart(position);
+  if (start == 0) {
+    first_alignment_ = alignment;
+  } else {
+    cells_[start - 1].alignment = static_cast<std::uint32_t>(alignment) & 3;
+  }
 }
 
 int RichText::LastPosition(const Stretch& stretch) const {

@@ -36,7 +36,7 @@ struct CharFormat {
   bool operator==(const CharFormat&) const = default;
 };
 
-// A whole document as a file tells it.
+// A document, or a stretch of one, as files and the clipboard tell it.
 struct RichContent {
   struct Span {
     std::size_t length;  // characters
@@ -118,6 +118,10 @@ class RichText {
   // the text and keeps that format.
   void SelText(std::string_view bytes);
   void SelUnicode(std::u32string_view text);
+  // Replaces the selection by a stretch, in one change; the caret ends behind and takes the format
+  // there. Paragraphs of the stretch keep their alignment, but not a first or last one that is
+  // joined to what stands there; all are, of a stretch within a paragraph.
+  void SelContent(const RichContent& content);
 
   // Setting applies to the selection, or without one to the caret format.
   std::optional<std::string> SelFontName() const;
@@ -195,8 +199,10 @@ class RichText {
   // An empty document, aligned left, the caret format the design font.
   void Clear();
 
-  // The whole document. Its formats are those in use, in the order of their first use.
-  RichContent Content() const;
+  // The whole document, or a stretch. Its formats are those in use, in the order of their first
+  // use.
+  RichContent Content() const { return Content(0, Length()); }
+  RichContent Content(int position, int count) const;
   // Replaces the document, in one change. The caret goes to 0 and takes the format there. Every
   // span comes in as if it were inserted alone; paragraphs without an alignment are aligned left.
   void Load(const RichContent& content);
@@ -234,6 +240,9 @@ class RichText {
   Stretch Selection() const { return {caret_, selected_}; }
   Alignment AlignmentBehind(int line_end) const;
   int ParagraphStart(int position) const;
+  // Whether a line end, the start or the end of the document stands there.
+  bool IsEdge(int position) const;
+  void SetAlignment(int position, Alignment alignment);  // of the paragraph that holds it
   // The last position whose paragraph counts as one of the stretch.
   int LastPosition(const Stretch& stretch) const;
 
@@ -241,8 +250,11 @@ class RichText {
   int Splice(const Stretch& removed, std::uint32_t text_format, std::uint32_t picture_format);
   void SpliceSelection(std::uint32_t picture_format);
   void SpliceAll(Alignment alignment);
+  // Give the position behind what they put in.
+  int InsertSpans(int position, const RichContent& content);
   template <class NextAlignment>
-  void Append(std::u32string_view text, std::uint32_t picture_format, NextAlignment next_alignment);
+  int InsertSpan(int position, std::u32string_view text, std::uint32_t picture_format,
+                 NextAlignment next_alignment);
   void Select(int position, int length);
 
   // Whether a format changed; `change` alters a CharFormat in place.

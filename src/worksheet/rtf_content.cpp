@@ -104,9 +104,9 @@ void RtfContent::EndRow() {
   EndLine(Alignment::Left);
 }
 
-RichContent RtfContent::Take(Alignment last) && {
+RichContent RtfContent::Take(Alignment last, bool keep_last_end) && {
   EndSpan();
-  if (paragraph_ended_) {
+  if (paragraph_ended_ && !keep_last_end) {
     content_.text.pop_back();
     if (--content_.spans.back().length == 0) content_.spans.pop_back();
   } else {

@@ -30,9 +30,9 @@ class RtfContent {
   void EndCell() { ++cells_; }
   void EndRow();
 
-  // A paragraph's end that is the last thing in the file begins no further paragraph. Throws
-  // RunTimeError 321 for a document taller than a view can show.
-  RichContent Take(Alignment last) &&;
+  // A paragraph's end that is the last thing in the file begins no further paragraph, unless it is
+  // kept. Throws RunTimeError 321 for a document taller than a view can show.
+  RichContent Take(Alignment last, bool keep_last_end) &&;
 
  private:
   void EndSpan();

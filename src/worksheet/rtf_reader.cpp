@@ -38,7 +38,7 @@ class Reader {
  public:
   explicit Reader(std::string_view bytes) : tokens_(bytes) {}
 
-  RichContent Read();
+  RichContent Read(bool keep_last_end);
 
  private:
   State& state() { return states_.back(); }
@@ -108,7 +108,7 @@ class Reader {
 
 // --- Groups
 
-RichContent Reader::Read() {
+RichContent Reader::Read(bool keep_last_end) {
   ReadStart();
   while (true) {
     RtfToken token = tokens_.Next();
@@ -119,7 +119,9 @@ RichContent Reader::Read() {
         OpenGroup();
         break;
       case RtfToken::Kind::GroupClose:
-        if (states_.size() == 1) return std::move(content_).Take(state().style.alignment);
+        if (states_.size() == 1) {
+          return std::move(content_).Take(state().style.alignment, keep_last_end);
+        }
         CloseGroup();
         break;
       default:
@@ -550,8 +552,12 @@ bool Reader::UseLooks() {
 }  // namespace
 
 void ReadRtf(std::string_view bytes, RichText& document) {
+  document.Load(ReadRtfStretch(bytes, false));
+}
+
+RichContent ReadRtfStretch(std::string_view bytes, bool ends_paragraph) {
   if (bytes.size() > kLargestFile) throw RunTimeError(Fault::InvalidFormat);
-  document.Load(Reader(bytes).Read());
+  return Reader(bytes).Read(ends_paragraph);
 }
 
 }  // namespace brindlepage

@@ -4,6 +4,7 @@
 
 namespace brindlepage {
 
+struct RichContent;
 class RichText;
 
 // Replaces the document by a rich text file (RTF 1.9), in one change; the caret goes to 0 and takes
@@ -15,5 +16,9 @@ class RichText;
 // they don't have, or make a document too tall for a view (some 700,000 lines) throw RunTimeError
 // 321 and leave the document as it was.
 void ReadRtf(std::string_view bytes, RichText& document);
+
+// The same of a stretch that is to be inserted somewhere. With `ends_paragraph` a paragraph's end
+// that is the last thing in the bytes ends a line of the stretch.
+RichContent ReadRtfStretch(std::string_view bytes, bool ends_paragraph);
 
 }  // namespace brindlepage

@@ -57,7 +57,7 @@ class Writer {
  public:
   explicit Writer(RichContent&& content) : content_(std::move(content)) {}
 
-  std::string Write();
+  std::string Write(bool ends_last);
 
  private:
   void NumberLooks();
@@ -106,7 +106,7 @@ class Writer {
   bool behind_word_ = false;
 };
 
-std::string Writer::Write() {
+std::string Writer::Write(bool ends_last) {
   NumberLooks();
   ReserveRoom();
   WriteTables();
@@ -118,7 +118,7 @@ std::string Writer::Write() {
     WriteSpan(rest.substr(0, span.length), span.format);
     rest.remove_prefix(span.length);
   }
-  EndParagraph();
+  if (ends_last) EndParagraph();
   Add("}");
   return std::move(rtf_);
 }
@@ -327,6 +327,8 @@ void Writer::WriteHex(std::string_view bytes) {
 
 }  // namespace
 
-std::string WriteRtf(const RichText& document) { return Writer(document.Content()).Write(); }
+std::string WriteRtf(const RichText& document) { return Writer(document.Content()).Write(true); }
+
+std::string WriteRtfStretch(RichContent stretch) { return Writer(std::move(stretch)).Write(false); }
 
 }  // namespace brindlepage

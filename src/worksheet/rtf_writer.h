@@ -4,6 +4,7 @@
 
 namespace brindlepage {
 
+struct RichContent;
 class RichText;
 
 // The document as a rich text file (RTF 1.9), pictures included. What ReadRtf makes of it is the
@@ -17,5 +18,8 @@ class RichText;
 //                            don't follow from the data
 //   \gifblip                 a GIF picture; some readers know it by its data and show it
 std::string WriteRtf(const RichText& document);
+
+// A stretch, whose last paragraph the bytes leave open.
+std::string WriteRtfStretch(RichContent stretch);
 
 }  // namespace brindlepage
