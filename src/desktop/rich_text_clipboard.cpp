@@ -107,7 +107,8 @@ RichTextMimeData::RichTextMimeData(RichContent stretch, QTextDocumentFragment sh
 QStringList RichTextMimeData::formats() const {
   QStringList formats;
   for (const char* const name : kRtf) formats << QString::fromLatin1(name);
-  return formats << kHtml << kPlain;
+  if (!shown_.isEmpty()) formats << kHtml;
+  return formats << kPlain;
 }
 
 QVariant RichTextMimeData::retrieveData(const QString& format, QMetaType) const {

@@ -14,8 +14,8 @@ class RichTextMimeData : public QMimeData {
   Q_OBJECT
 
  public:
-  // HTML is made of the stretch as it is shown.
-  RichTextMimeData(RichContent stretch, QTextDocumentFragment shown);
+  // HTML, which lacks the pictures, is made of the stretch as it is shown, and not offered without.
+  explicit RichTextMimeData(RichContent stretch, QTextDocumentFragment shown = {});
 
   const RichContent& Stretch() const { return stretch_; }
 

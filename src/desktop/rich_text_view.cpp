@@ -191,25 +191,28 @@ void RichTextView::Cut() {
 
 void RichTextView::Copy() {
   Mirror();
-  if (QMimeData* mime = CopyOfSelection()) QApplication::clipboard()->setMimeData(mime);
+  if (QMimeData* mime = CopyOfSelection(Caret().selection()))
+    QApplication::clipboard()->setMimeData(mime);
 }
 
-QMimeData* RichTextView::CopyOfSelection() const {
+QMimeData* RichTextView::CopyOfSelection(const QTextDocumentFragment& shown) const {
   const RichTextBox* box = mirror_.box();
   if (box == nullptr || box->SelLength() == 0) return nullptr;
-  return new RichTextMimeData(box->Content(box->SelStart(), box->SelLength()), Caret().selection());
+  return new RichTextMimeData(box->Content(box->SelStart(), box->SelLength()), shown);
 }
 
 // To a middle click, in place of what the library offers.
 void RichTextView::OfferSelection() {
   QClipboard& clipboard = *QApplication::clipboard();
   if (!clipboard.supportsSelection()) return;
-  if (QMimeData* mime = CopyOfSelection()) clipboard.setMimeData(mime, QClipboard::Selection);
+  if (QMimeData* mime = CopyOfSelection(Caret().selection()))
+    clipboard.setMimeData(mime, QClipboard::Selection);
 }
 
-// A move within the sheet is done whole by the drop.
+// A move within the sheet is done whole by the drop. Word processors take a page that is dropped in
+// front of rich text, which has the pictures; so none is offered.
 void RichTextView::DragSelection() {
-  QMimeData* const mime = CopyOfSelection();
+  QMimeData* const mime = CopyOfSelection({});
   if (mime == nullptr) return;
   auto* const drag = new QDrag(viewport());
   drag->setMimeData(mime);

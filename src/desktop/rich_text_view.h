@@ -7,6 +7,7 @@
 
 class QMimeData;
 class QPrinter;
+class QTextDocumentFragment;
 
 namespace brindlepage {
 
@@ -68,7 +69,8 @@ class RichTextView : public PaperView {
   void ToggleUnderline();
   void LeaveForward() { PaperView::focusNextPrevChild(true); }
   void LeaveBackward() { PaperView::focusNextPrevChild(false); }
-  QMimeData* CopyOfSelection() const;  // null without a selection
+  // Null without a selection.
+  QMimeData* CopyOfSelection(const QTextDocumentFragment& shown) const;
   void OfferSelection();
   void DragSelection();
   void Insert(const QMimeData& mime);
