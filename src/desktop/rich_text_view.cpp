@@ -136,7 +136,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   RichTextView& view_;
   bool dragged_over_ = false;
   bool focus_told_ = false;  // to the library's text
-  bool may_drag_ = false;  // the mouse was pressed on the selection
+  bool may_drag_ = false;    // the mouse was pressed on the selection
 };
 
 RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
@@ -216,8 +216,8 @@ void RichTextView::DragSelection() {
   if (mime == nullptr) return;
   auto* const drag = new QDrag(viewport());
   drag->setMimeData(mime);
-  const Qt::DropAction done = drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
-  if (done == Qt::MoveAction && drag->target() != viewport()) Delete();
+  // Within the sheet the drop moves it; another program gets a copy, whatever it takes it for.
+  drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
 }
 
 void RichTextView::Paste() {
