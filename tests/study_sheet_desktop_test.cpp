@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPaintEvent>
 #include <QPushButton>
 #include <QtTest/QTest>
 #include <set>
@@ -30,10 +31,13 @@ class PaintedSizes : public QObject {
     if (event->type() == QEvent::Paint && widget != nullptr &&
         widget->objectName() == objectName()) {
       sizes.emplace(widget->width(), widget->height());
+      const QRect part = static_cast<QPaintEvent*>(event)->region().boundingRect();
+      times += part == widget->rect() ? 1 : 0;
     }
     return false;
   }
   std::set<std::pair<int, int>> sizes;
+  int times = 0;  // whole
 };
 
 class StudySheetTest : public DesktopTest {
@@ -180,7 +184,7 @@ TEST_F(StudySheetTest, ItIsNotPaintedSmallBeforeItsWindowIsMaximised) {
   EXPECT_EQ(painted.sizes, std::set{std::pair(full.width(), full.height())});
 }
 
-TEST_F(StudySheetTest, AClickIsAnsweredAsSoonAsItsHandlerIsDone) {
+TEST_F(StudySheetTest, AClickIsAnsweredAsSoonAsItsHandlerIsDoneAndOnce) {
   UseOneList(5);
   Start();
   const PaintedSizes painted("ChooseList");
@@ -188,6 +192,8 @@ TEST_F(StudySheetTest, AClickIsAnsweredAsSoonAsItsHandlerIsDone) {
   EXPECT_TRUE(painted.sizes.empty());
   QApplication::sendPostedEvents();
   EXPECT_FALSE(painted.sizes.empty());
+  Settle();
+  EXPECT_EQ(painted.times, 1);
 }
 
 TEST_F(StudySheetTest, TheMenuIsNotPaintedLargeBeforeItsWindowGoesBack) {

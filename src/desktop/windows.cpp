@@ -200,6 +200,8 @@ void Windows::Flush() {
   ShowBoxes();
   ShowFocus();
   Bury();
+  // What was shown asks to be painted, and would once more when it had been.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
 }
 
 FormView* Windows::Find(Form& form) const {
