@@ -111,7 +111,8 @@ TEST(PastedRtf, WhatIsNoRichTextIsRefused) {
   EXPECT_EQ(Pasted("ash", U"ash"), "refused");
   EXPECT_EQ(Pasted("<b>ash</b>", U"ash"), "refused");
   EXPECT_EQ(Pasted(std::string(100000, '{'), U"ash"), "refused");
-  EXPECT_EQ(Pasted(File(std::string(1000, '{') + "ash" + std::string(1000, '}')), U""), "refused");
+  const std::string deep = std::string(1000, '{').append("ash").append(1000, '}');
+  EXPECT_EQ(Pasted(File(deep), U""), "refused");
   EXPECT_EQ(Pasted(File("{\\pict\\pngblip\\bin999999999 ab}"), U"ash"), "refused");
 }
 
