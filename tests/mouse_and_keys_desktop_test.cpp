@@ -64,6 +64,7 @@ TEST_F(MouseAndKeys, WhatIsTypedGoesIntoTheDocumentThatShows) {
 TEST_F(MouseAndKeys, EnterOnCancelSavesNothing) {
   GoToSecretCode();
   OnBoxes([this](QDialog& box) {
+    if (!box.isActiveWindow()) return;  // it has no keys yet
     boxes_ << box.windowTitle();
     if (boxes_.size() > 1) return box.reject();
     Press(Qt::Key_Tab);
@@ -79,6 +80,7 @@ TEST_F(MouseAndKeys, EnterOnCancelSavesNothing) {
 TEST_F(MouseAndKeys, AQuestionIsAnsweredByTheLetterOfItsAnswer) {
   GoToSecretCode();
   OnBoxes([this](QDialog& box) {
+    if (!box.isActiveWindow()) return;  // it has no keys yet
     boxes_ << box.windowTitle();
     if (boxes_.size() > 4) return box.reject();
     Press(box.windowTitle() == "Save Answer Key?" ? Qt::Key_N : Qt::Key_Return);
