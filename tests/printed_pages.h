@@ -2,14 +2,30 @@
 
 #include <gtest/gtest.h>
 
+#include <QPageSize>
+#include <QPrinter>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <string>
 
-// What stands on the pages of a PDF file.
+#include "desktop/rich_text_view.h"
+
+// Prints documents into PDF files, and tells what stands on their pages.
 namespace brindlepage::pages {
+
+// On Letter paper, or as is told. With a length of 0 the whole document.
+inline void Print(const RichTextBox& box, const QString& file, int start = 0, int length = 0,
+                  const std::function<void(QPrinter&)>& told = {}) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(file);
+  printer.setPageSize(QPageSize(QPageSize::Letter));
+  if (told) told(printer);
+  PrintRichText(box, start, length, printer);
+}
 
 // What a command says. One that is missing fails the test.
 inline QString Ask(const QString& tool, const QStringList& arguments) {

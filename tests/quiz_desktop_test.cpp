@@ -3,11 +3,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QDialog>
-#include <QPrinter>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -22,6 +19,7 @@
 #include "desktop/windows.h"
 #include "program/screens.h"
 #include "quiz/quiz_form.h"
+#include "tests/printed_pages.h"
 #include "tests/temp_folder.h"
 
 namespace brindlepage {
@@ -164,32 +162,16 @@ TEST_F(QuizDesktop, TheBlanksAtTheEndTakeNoLineAndNoWidth) {
 
 class PrintedQuiz : public QuizDesktop {
  protected:
-  void SetUp() override {
-    if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "needs pdftotext";
-  }
-
-  void Print(int start = 0, int length = 0) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file_);
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    PrintRichText(Sheet(), start, length, printer);
-  }
-  static QString Ask(const QString& tool, const QStringList& arguments) {
-    QProcess process;
-    process.start(tool, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
+  void Print(int start = 0, int length = 0) { pages::Print(Sheet(), file_, start, length); }
   int Pages() {
-    const QRegularExpression pages("Pages:\\s+(\\d+)");
-    return pages.match(Ask("pdfinfo", {file_})).captured(1).toInt();
+    const QRegularExpression count("Pages:\\s+(\\d+)");
+    return count.match(pages::Ask("pdfinfo", {file_})).captured(1).toInt();
   }
   // Where the words of that look begin on paper, in points.
   std::vector<double> PlacesOf(const QString& word) {
     std::vector<double> places;
     const QRegularExpression line("<word xMin=\"([0-9.]+)\"[^>]*>" + word + "</word>");
-    auto matches = line.globalMatch(Ask("pdftotext", {"-bbox", file_, "-"}));
+    auto matches = line.globalMatch(pages::Ask("pdftotext", {"-bbox", file_, "-"}));
     while (matches.hasNext()) places.push_back(matches.next().captured(1).toDouble());
     return places;
   }

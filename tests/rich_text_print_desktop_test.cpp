@@ -16,12 +16,7 @@ namespace {
 class APrintedSheet : public AnOpenSheet {
  protected:
   void Print(int start = 0, int length = 0, const std::function<void(QPrinter&)>& told = {}) {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file_);
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    if (told) told(printer);
-    PrintRichText(box(), start, length, printer);
+    pages::Print(box(), file_, start, length, told);
   }
   // The lines on paper and on screen on which something stands.
   std::string PrintedLines() { return pages::WrittenLines(file_); }

@@ -5,11 +5,8 @@
 #include <QLabel>
 #include <QListView>
 #include <QPlainTextEdit>
-#include <QPrinter>
-#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
@@ -17,6 +14,7 @@
 
 #include "desktop/desktop.h"
 #include "desktop/rich_text_view.h"
+#include "tests/printed_pages.h"
 #include "tests/temp_folder.h"
 #include "worksheet/worksheet_form.h"
 
@@ -106,17 +104,9 @@ class RiddleDesktop : public testing::Test {
     auto* form = program().forms().Find<WorksheetForm>(screen);
     const QTemporaryDir paper;
     const QString file = paper.filePath("sheet.pdf");
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    PrintRichText(form->QuizBox, 0, 0, printer);
-    QProcess reader;
-    reader.start("pdftotext", {layout, file, "-"});
-    reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput()).split('\n');
+    pages::Print(form->QuizBox, file);
+    return pages::Ask("pdftotext", {layout, file, "-"}).split('\n');
   }
-  static bool CanRead() { return !QStandardPaths::findExecutable("pdftotext").isEmpty(); }
 
   TempFolder folder_;
   std::unique_ptr<Desktop> desktop_;
@@ -251,7 +241,6 @@ TEST_F(RiddleDesktop, TheRiddleSheetWaitsBehindTheMenuForTheNextRiddle) {
 }
 
 TEST_F(RiddleDesktop, TheColumnsOfTheKeyTableStandStraightOnPaper) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   OpenRiddleOption1("Command2");
   Click("RiddleOption1", "Command3");
   Click("RiddleOption1", "Command2");
@@ -277,7 +266,6 @@ TEST_F(RiddleDesktop, TheColumnsOfTheKeyTableStandStraightOnPaper) {
 }
 
 TEST_F(RiddleDesktop, TheNumbersStandUnderTheirBlanksOnPaper) {
-  if (!CanRead()) GTEST_SKIP() << "needs pdftotext";
   folder_.Write("TheLists.dat",
                 "One\r\nbdfhjlnprtvxz\r\nx\r\nacegikmoqsuwy\r\nx\r\nabcdefghijklm\r\nx\r\n");
   folder_.Write("Riddles.dat", "Who?\r\nabcdefghijklmnopqrstuvwxyz\r\n");

@@ -3,11 +3,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QLabel>
-#include <QPrinter>
-#include <QProcess>
 #include <QScrollBar>
 #include <QSlider>
-#include <QStandardPaths>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QToolButton>
@@ -17,6 +14,7 @@
 #include "desktop/desktop.h"
 #include "desktop/rich_text_view.h"
 #include "desktop/text.h"
+#include "tests/printed_pages.h"
 #include "tests/temp_folder.h"
 #include "wordsearch/word_search_form.h"
 
@@ -99,15 +97,8 @@ class AWordSearchOnScreen : public ::testing::Test {
 
   QStringList PrintedPages(const RichTextBox& box) {
     const QString file = ToQString((folder_.Path() / "sheet.pdf").string());
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(file);
-    printer.setPageSize(QPageSize(QPageSize::Letter));
-    PrintRichText(box, 0, 0, printer);
-    QProcess reader;
-    reader.start("pdftotext", {"-layout", file, "-"});
-    reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput()).split(u'\f', Qt::SkipEmptyParts);
+    pages::Print(box, file);
+    return pages::Texts(file);
   }
   // The lines on which something stands, their blanks made one.
   static QStringList Written(const QString& text) {
@@ -174,7 +165,6 @@ TEST_F(AWordSearchOnScreen, HasItsWordsInStraightColumns) {
 }
 
 TEST_F(AWordSearchOnScreen, IsPrintedLineByLineAndBreaksPagesBetweenRowsOnly) {
-  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   for (const int bank : {1, 2}) {
     OpenLargest(bank);
     const QStringList pages = PrintedPages(form().QuizBox);
@@ -192,7 +182,6 @@ TEST_F(AWordSearchOnScreen, IsPrintedLineByLineAndBreaksPagesBetweenRowsOnly) {
 }
 
 TEST_F(AWordSearchOnScreen, IsPrintedWithWholeRowsWhereAPageEndsInThePuzzle) {
-  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   OpenLargest(1);
   desktop_->loop().Dispatch([&] {
     form().QuizBox.SelStart(0);
@@ -208,7 +197,6 @@ TEST_F(AWordSearchOnScreen, IsPrintedWithWholeRowsWhereAPageEndsInThePuzzle) {
 }
 
 TEST_F(AWordSearchOnScreen, HasAKeyThatIsPrintedOnOnePage) {
-  ASSERT_FALSE(QStandardPaths::findExecutable("pdftotext").isEmpty()) << "pdftotext is missing";
   OpenLargest(1);
   const QStringList pages = PrintedPages(form().AnswerBox);
   EXPECT_EQ(pages.size(), 1);
