@@ -27,6 +27,14 @@ class MouseAndKeys : public DesktopTest {
     QTest::keyClicks(QApplication::focusWidget(), text);
     Settle();
   }
+  // Notes the boxes' titles, and does that to each, but to no more than so many.
+  void OnBoxesWithKeys(int most, std::function<void(QDialog&)> deed) {
+    OnBoxes([this, most, deed](QDialog& box) {
+      if (!box.isActiveWindow()) return;  // it has no keys yet
+      boxes_ << box.windowTitle();
+      boxes_.size() > most ? box.reject() : deed(box);
+    });
+  }
   static bool Holds(const RichTextBox& box, std::u32string_view text) {
     return box.PlainText().find(text) != std::u32string::npos;
   }
@@ -63,10 +71,7 @@ TEST_F(MouseAndKeys, WhatIsTypedGoesIntoTheDocumentThatShows) {
 
 TEST_F(MouseAndKeys, EnterOnCancelSavesNothing) {
   GoToSecretCode();
-  OnBoxes([this](QDialog& box) {
-    if (!box.isActiveWindow()) return;  // it has no keys yet
-    boxes_ << box.windowTitle();
-    if (boxes_.size() > 1) return box.reject();
+  OnBoxesWithKeys(1, [this](QDialog&) {
     Press(Qt::Key_Tab);
     Press(Qt::Key_Tab);
     Press(Qt::Key_Return);
@@ -79,10 +84,7 @@ TEST_F(MouseAndKeys, EnterOnCancelSavesNothing) {
 
 TEST_F(MouseAndKeys, AQuestionIsAnsweredByTheLetterOfItsAnswer) {
   GoToSecretCode();
-  OnBoxes([this](QDialog& box) {
-    if (!box.isActiveWindow()) return;  // it has no keys yet
-    boxes_ << box.windowTitle();
-    if (boxes_.size() > 4) return box.reject();
+  OnBoxesWithKeys(4, [this](QDialog& box) {
     Press(box.windowTitle() == "Save Answer Key?" ? Qt::Key_N : Qt::Key_Return);
   });
   ClickTool("CodeForm", "Save");

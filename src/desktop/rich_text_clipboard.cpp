@@ -28,7 +28,6 @@ constexpr QLatin1String kPlain("text/plain");
 // Rich text as desktops name it; the last is Qt's word for the name on Windows.
 constexpr const char* kRtf[] = {"text/rtf", "application/rtf", "text/richtext",
                                 "application/x-qt-windows-mime;value=\"Rich Text Format\""};
-constexpr char32_t kPicture = 0xFFFC;
 
 bool IsRtf(const QString& format) {
   return std::any_of(std::begin(kRtf), std::end(kRtf),
@@ -50,7 +49,7 @@ QByteArray RtfOf(const QMimeData& data) {
 
 QString WordsOf(const RichContent& stretch) {
   std::u32string words = stretch.text;
-  std::erase(words, kPicture);
+  std::erase(words, kPictureCharacter);
   return QString::fromStdU32String(words);
 }
 

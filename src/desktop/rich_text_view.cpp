@@ -448,7 +448,8 @@ bool RichTextView::focusNextPrevChild(bool) { return false; }
 
 // --- The mouse
 
-// The middle button pastes what was selected last.
+// What the mouse has selected is offered to middle clicks, and a middle click takes what is
+// offered.
 void RichTextView::mouseReleaseEvent(QMouseEvent* event) {
   PaperView::mouseReleaseEvent(event);
   const QClipboard& clipboard = *QApplication::clipboard();

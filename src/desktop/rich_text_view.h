@@ -16,7 +16,8 @@ class RichTextFindBar;
 // The face of a rich text box: a sheet on which a teacher types, selects, copies and pastes,
 // undoes, zooms and finds.
 //
-// A RichTextMirror keeps what is shown and the box alike.
+// A RichTextMirror keeps what is shown and the box alike. The positions of what is shown are those
+// of the box, but for characters beyond U+FFFF, which Qt counts double.
 class RichTextView : public PaperView {
   Q_OBJECT
 

@@ -14,7 +14,6 @@ namespace {
 
 constexpr char32_t kLineEnd = U'\n';
 constexpr char32_t kParagraphSeparator = 0x2029;
-constexpr char32_t kPicture = 0xFFFC;
 constexpr char32_t kReplacement = 0xFFFD;
 
 bool MakesSense(char32_t c) {
@@ -47,7 +46,7 @@ void PutClean(std::basic_string_view<Character> raw, bool has_picture, Put put) 
     } else if (c == U'\r' || c == kParagraphSeparator) {
       put(kLineEnd);
     } else {
-      put(MakesSense(c) && (c != kPicture || has_picture) ? c : kReplacement);
+      put(MakesSense(c) && (c != kPictureCharacter || has_picture) ? c : kReplacement);
     }
     behind_return = c == U'\r';
   }
@@ -154,7 +153,7 @@ void RichText::InsertPicture(std::shared_ptr<const RichPicture> picture) {
   if (!picture) throw RunTimeError(Fault::InvalidPicture);
   CharFormat format = CaretFormat();
   format.picture = std::move(picture);
-  incoming_.assign(1, kPicture);
+  incoming_.assign(1, kPictureCharacter);
   SpliceSelection(Intern(std::move(format)));
 }
 
@@ -390,7 +389,7 @@ int RichText::InsertSpan(int position, std::u32string_view text, std::uint32_t p
     if (c == kLineEnd) {
       inserted.alignment = static_cast<std::uint32_t>(next_alignment()) & 3;
       ++line_ends_;
-    } else if (c == kPicture) {
+    } else if (c == kPictureCharacter) {
       inserted.format = picture_format;
     }
     *cell++ = inserted;
@@ -535,7 +534,7 @@ int RichText::Splice(const Stretch& removed, std::uint32_t text_format,
   for (const char32_t c : incoming_) {
     *cell++ = {.character = c & 0x1FFFFF,
                .alignment = static_cast<std::uint32_t>(alignment) & 3,
-               .format = c == kPicture ? picture_format : text_format};
+               .format = c == kPictureCharacter ? picture_format : text_format};
     line_ends_ += c == kLineEnd;
   }
   return inserted;

@@ -16,6 +16,9 @@ namespace brindlepage {
 
 enum class Alignment { Left = 0, Right = 1, Centre = 2 };
 
+// Stands in a text where a picture does; the format there has the picture.
+inline constexpr char32_t kPictureCharacter = 0xFFFC;
+
 struct RichPicture {
   std::string format;  // "png", "jpg", "bmp", "wmf", "emf" or "gif"
   std::string bytes;   // the picture's file

@@ -10,8 +10,6 @@ namespace brindlepage {
 
 namespace {
 
-constexpr char32_t kPicture = 0xFFFC;
-
 constexpr std::int64_t kColumn = 10800;  // twips
 // Views count in 64ths of a quarter point, up to 2 to the 31st.
 constexpr std::int64_t kTallest = 160'000'000;  // twips; 700,000 lines of the usual size
@@ -80,7 +78,7 @@ void RtfContent::Picture(std::shared_ptr<const RichPicture> picture) {
   CharFormat format = content_.formats[text_format];
   format.picture = std::move(picture);
   UseFormat(AddFormat(std::move(format)));
-  content_.text.push_back(kPicture);
+  content_.text.push_back(kPictureCharacter);
   UseFormat(text_format);
 }
 

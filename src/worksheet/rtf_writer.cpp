@@ -24,7 +24,6 @@ namespace {
 constexpr char kPage[] =
     "\\paperw12240\\paperh15840\\margl720\\margr720\\margt1080\\margb1080\\dntblnsbdb\n";
 constexpr char kUsualFont[] = "Courier New";  // of an empty document
-constexpr char32_t kPicture = 0xFFFC;
 
 constexpr std::string_view kDigits = "0123456789abcdef";
 
@@ -215,7 +214,7 @@ void Writer::WriteSpan(std::u32string_view text, std::size_t format) {
       EndParagraph();
       ++paragraph_;
       WriteAlignment();
-    } else if (odd == kPicture && picture) {
+    } else if (odd == kPictureCharacter && picture) {
       WritePicture(*picture);
     } else {
       WriteOdd(odd);
