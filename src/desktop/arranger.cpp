@@ -98,11 +98,12 @@ class Arranger {
 
 }  // namespace
 
-QLayout* LayOut(const Arrangement& part, const WidgetOf& widget_of) {
-  const bool group = part.kind == Kind::Column || part.kind == Kind::Row || part.kind == Kind::Grid;
-  Arrangement column(Kind::Column);
-  if (!group) column.parts.push_back(part);
-  return Arranger(widget_of).LayOutGroup(group ? part : column);
+bool IsGroup(const Arrangement& part) {
+  return part.kind == Kind::Column || part.kind == Kind::Row || part.kind == Kind::Grid;
+}
+
+QLayout* LayOut(const Arrangement& group, const WidgetOf& widget_of) {
+  return Arranger(widget_of).LayOutGroup(group);
 }
 
 bool WantsRoom(const Arrangement& part) {

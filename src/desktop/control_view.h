@@ -75,7 +75,8 @@ class LetteredCaption {
 struct ViewSetting {
   Loop& loop;
   Mnemonics& letters;
-  QWidget* parent;
+  QWidget* page;    // of the whole form
+  QWidget* parent;  // what the control stands on: the page, or a part of it
   // Of a label that stands beside a box without a caption: that box's widget.
   QWidget* partner = nullptr;
   // A label that may take more than one line.

@@ -42,8 +42,8 @@ class ImageControlView : public ViewOf<Image> {
         // Quick clicks are clicks, where a double click means nothing else.
         [this] { Act([](Image& i) { i.DblClick ? i.UserDoubleClick() : i.UserClick(); }); });
     if (image.Click) widget()->setCursor(Qt::PointingHandCursor);
-    if (image.key == Key::PageUp) Click(Qt::Key_PageUp, setting.parent);
-    if (image.key == Key::PageDown) Click(Qt::Key_PageDown, setting.parent);
+    if (image.key == Key::PageUp) Click(Qt::Key_PageUp, setting.page);
+    if (image.key == Key::PageDown) Click(Qt::Key_PageDown, setting.page);
   }
 
  protected:
@@ -51,9 +51,9 @@ class ImageControlView : public ViewOf<Image> {
 
  private:
   // The key clicks the image, whatever has the focus.
-  void Click(Qt::Key key, QWidget* form) {
+  void Click(Qt::Key key, QWidget* page) {
     auto* shortcut =
-        new QShortcut(QKeySequence(key), form, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        new QShortcut(QKeySequence(key), page, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this,
             [this] { Act([](Image& i) { i.UserClick(); }); });
   }

@@ -52,26 +52,6 @@ bool IsBareMark(Control* control) {
   return check != nullptr && check->Caption().empty();
 }
 
-// Labels by the mark that they stand beside.
-void CollectPartners(const Arrangement& part, std::map<const Control*, Control*>& partners) {
-  Control* mark = nullptr;
-  for (const Arrangement& inside : part.parts) {
-    if (mark != nullptr && Is<Label>(inside.control)) partners[inside.control] = mark;
-    mark = IsBareMark(inside.control) ? inside.control : nullptr;
-    CollectPartners(inside, partners);
-  }
-}
-
-// Labels that have a column's width to themselves, or a share of the room.
-void CollectWrapping(const Arrangement& part, std::map<const Control*, bool>& wraps) {
-  for (const Arrangement& inside : part.parts) {
-    if (Is<Label>(inside.control)) {
-      wraps[inside.control] = part.kind == Arrangement::Kind::Column || inside.weight > 0;
-    }
-    CollectWrapping(inside, wraps);
-  }
-}
-
 // Lists that stand side by side have their rows in common.
 void CollectTables(const Arrangement& part, std::vector<std::pair<Control*, Control*>>& tables) {
   for (std::size_t i = 0; i < part.parts.size(); ++i) {
@@ -167,25 +147,14 @@ void FormView::FindBackdrop() {
 }
 
 void FormView::MakeViews() {
-  std::map<const Control*, Control*> partners;
-  std::map<const Control*, bool> wraps;
   const Arrangement& page = form_->arrangement();
-  CollectPartners(page, partners);
-  CollectWrapping(page, wraps);
-  ForEachControl(page, [&](Control& control) { arranged_.push_back(&control); });
-
   if (MenuBar::HasMenus(*form_)) menu_bar_ = new MenuBar(*form_, loop_, letters_, this);
-  const auto make = [&](auto wanted) {
-    for (Control* control : arranged_) {
-      if (views_.count(control) || !wanted(control)) continue;
-      const auto partner = partners.find(control);
-      QWidget* mark = partner == partners.end() ? nullptr : views_[partner->second]->widget();
-      MakeView(*control, mark, wraps[control]);
-    }
-  };
-  make([](Control* control) { return IsBareMark(control); });
-  make([](Control* control) { return !Is<Toolbar>(control); });
-  make([](Control*) { return true; });
+  const bool has_document = HasRichText(page);
+  QWidget* ground = MakeGround();
+  MakeViews(page, [&](const Arrangement& part) -> QWidget* {
+    if (Is<Toolbar>(part.control)) return this;
+    return has_document && IsGroup(part) ? MakeStrip() : ground;
+  });
 
   std::vector<std::pair<Control*, Control*>> tables;
   CollectTables(page, tables);
@@ -195,8 +164,46 @@ void FormView::MakeViews() {
   for (const auto& [left, right] : tables) ScrollTogether(list_of(left), list_of(right));
 }
 
-void FormView::MakeView(Control& control, QWidget* partner, bool wraps) {
-  views_[&control] = MakeControlView(control, {loop_, letters_, this, partner, wraps});
+void FormView::MakeViews(const Arrangement& group, const GroundOf& ground_of) {
+  QWidget* mark = nullptr;  // the one in front
+  for (const Arrangement& part : group.parts) {
+    QWidget* ground = ground_of(part);
+    QWidget* partner = Is<Label>(part.control) ? mark : nullptr;
+    mark = nullptr;
+    if (Control* control = part.control) {
+      // A label wraps that has a column's width to itself, or a share of the room.
+      const bool wraps = group.kind == Arrangement::Kind::Column || part.weight > 0;
+      arranged_.push_back(control);
+      views_[control] = MakeControlView(*control, {loop_, letters_, this, ground, partner, wraps});
+      QWidget* widget = views_[control]->widget();
+      if (IsBareMark(control)) mark = widget;
+      if (!part.parts.empty()) ground = widget;  // a frame
+    }
+    MakeViews(part, [ground](const Arrangement&) { return ground; });
+  }
+}
+
+// What all but toolbars and strips stand on.
+QWidget* FormView::MakeGround() {
+  if (backdrop_ != nullptr) {
+    backdrop_content_ = new QWidget(this);
+    backdrop_content_->setProperty("backdrop", true);
+    return backdrop_content_;
+  }
+  const bool fills = form_->PlacesControls() || form_->kind() == FormKind::Box;
+  if (fills || HasRichText(form_->arrangement())) return this;
+  panel_ = new QFrame(this);
+  panel_->setObjectName("Panel");
+  panel_->setMaximumSize(kPanelWidth, kPanelHeight);
+  return panel_;
+}
+
+// For a row of controls above a document.
+QWidget* FormView::MakeStrip() {
+  auto* strip = new QFrame(this);
+  strip->setObjectName("FontStrip");
+  strips_.push_back(strip);
+  return strip;
 }
 
 void FormView::LayOutPage() {
@@ -220,44 +227,38 @@ void FormView::LayOutPage() {
     content->setSpacing(0);
     PutBarsOnStrips(*static_cast<QBoxLayout*>(content));
     page->addLayout(content, 1);
-  } else if (form_->kind() == FormKind::Box) {
+  } else if (backdrop_ != nullptr) {
+    AddOnBackdrop(*page, content);
+  } else if (panel_ != nullptr) {
+    AddPanel(*page, content, WantsRoom(rest));
+  } else {
     setMinimumWidth(kNarrowestBox);
     content->setContentsMargins(kBoxRoom, kBoxRoom, kBoxRoom, kBoxRoom - 4);
     page->addLayout(content, 1);
-  } else if (backdrop_ != nullptr) {
-    AddOnBackdrop(*page, content);
-  } else {
-    AddPanel(*page, content, WantsRoom(rest));
   }
 }
 
-// The rows of controls above a document.
 void FormView::PutBarsOnStrips(QBoxLayout& content) {
+  auto strip = strips_.begin();
   for (int i = 0; i < content.count(); ++i) {
     QLayout* bar = content.itemAt(i)->layout();
     if (bar == nullptr) continue;
     content.takeAt(i);
     bar->setParent(nullptr);
     bar->setContentsMargins(14, 6, 14, 6);
-    auto* strip = new QFrame(this);
-    strip->setObjectName("FontStrip");
-    strip->setLayout(bar);
-    content.insertWidget(i, strip);
+    (*strip)->setLayout(bar);
+    content.insertWidget(i, *strip++);
   }
 }
 
 void FormView::AddPanel(QBoxLayout& page, QLayout* content, bool wants_room) {
-  auto* panel = new QFrame(this);
-  panel->setObjectName("Panel");
-  panel->setMaximumSize(kPanelWidth, kPanelHeight);
-  panel->lower();
   content->setContentsMargins(kPanelRoom, kPanelRoom - 4, kPanelRoom, kPanelRoom - 4);
-  panel->setLayout(content);
+  panel_->setLayout(content);
 
   auto* across = new QHBoxLayout;
   across->setContentsMargins(kPageRoom, 0, kPageRoom, 0);
   across->addStretch(1);
-  across->addWidget(panel, 1000);
+  across->addWidget(panel_, 1000);
   across->addStretch(1);
   page.addSpacing(kPageRoom);
   page.addStretch(2);
@@ -267,8 +268,6 @@ void FormView::AddPanel(QBoxLayout& page, QLayout* content, bool wants_room) {
 }
 
 void FormView::AddOnBackdrop(QBoxLayout& page, QLayout* content) {
-  backdrop_content_ = new QWidget(this);
-  backdrop_content_->setProperty("backdrop", true);
   backdrop_content_->setLayout(content);
   auto* across = new QHBoxLayout;
   across->setContentsMargins(0, 0, 0, 0);

@@ -14,6 +14,7 @@
 #include "toolkit/form.h"
 
 class QBoxLayout;
+class QFrame;
 
 namespace brindlepage {
 
@@ -55,8 +56,13 @@ class FormView : public QWidget {
 
  private:
   void FindBackdrop();
+  // What a part of the page stands on. Its widgets are made there: one that is put on another
+  // widget later has to be styled anew.
+  using GroundOf = std::function<QWidget*(const Arrangement& part)>;
   void MakeViews();
-  void MakeView(Control& control, QWidget* partner, bool wraps);
+  void MakeViews(const Arrangement& group, const GroundOf& ground_of);
+  QWidget* MakeGround();
+  QWidget* MakeStrip();
   void LayOutPage();
   void PutBarsOnStrips(QBoxLayout& content);
   void AddPanel(QBoxLayout& page, QLayout* content, bool wants_room);
@@ -76,7 +82,9 @@ class FormView : public QWidget {
   Control* backdrop_ = nullptr;
   MenuBar* menu_bar_ = nullptr;
   GridView* grid_ = nullptr;  // of a form that places its controls
+  QFrame* panel_ = nullptr;
   QWidget* backdrop_content_ = nullptr;
+  std::vector<QFrame*> strips_;  // from the top
   std::map<Control*, std::unique_ptr<ControlView>> views_;
   Control* focus_shown_ = nullptr;
   bool focus_set_ = false;

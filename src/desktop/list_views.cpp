@@ -1,6 +1,8 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionComboBox>
+#include <QtMath>
 
 #include "desktop/control_views.h"
 #include "desktop/list_view.h"
@@ -81,10 +83,25 @@ class DriveListView : public ViewOf<DriveListBox> {
   QStringList rows_;
 };
 
+// One whose width the page tells. None of its rows is measured, which with many fonts takes long.
+class SizedComboBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+  QSize sizeHint() const override {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QFontMetricsF font(fontMetrics());
+    const QSize line(qCeil(font.averageCharWidth()), qCeil(font.height()) + 2);
+    return style()->sizeFromContents(QStyle::CT_ComboBox, &option, line, this);
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
 class ComboBoxView : public ViewOf<ComboBox> {
  public:
   ComboBoxView(ComboBox& combo_box, const ViewSetting& setting)
-      : ViewOf(setting.loop, combo_box, new QComboBox(setting.parent)) {
+      : ViewOf(setting.loop, combo_box, new SizedComboBox(setting.parent)) {
     // Which makes it editable, and unlike setEditable() does not make its list before it is opened.
     combo().setLineEdit(new QLineEdit(&combo()));
     combo().setInsertPolicy(QComboBox::NoInsert);
