@@ -6,8 +6,8 @@
 #include <QFontMetricsF>
 #include <QHash>
 #include <QPainter>
-#include <QSyntaxHighlighter>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -76,24 +76,42 @@ void SetFont(QTextCharFormat& format, const QString& font) {
 
 // Qt cuts blanks that run on for thousands of characters into lines. Where they stand at the end
 // of a paragraph they are drawn without width instead, in the layout alone.
-class BlankTails : public QSyntaxHighlighter {
+class BlankTails : public QObject {
  public:
-  using QSyntaxHighlighter::QSyntaxHighlighter;
-
- protected:
-  void highlightBlock(const QString& text) override {
-    if (text.size() < kLong) return;
-    qsizetype tail = text.size();
-    while (tail > 0 && text[tail - 1] == QLatin1Char(' ')) --tail;
-    if (text.size() - tail < kLong / 2) return;
-    QTextCharFormat no_width;
-    no_width.setFontLetterSpacingType(QFont::PercentageSpacing);
-    no_width.setFontLetterSpacing(1.0 / 64);  // the least that counts as a spacing
-    setFormat(static_cast<int>(tail), static_cast<int>(text.size() - tail), no_width);
+  explicit BlankTails(QTextDocument& document) : QObject(&document), document_(document) {
+    connect(&document, &QTextDocument::contentsChange, this,
+            [this](int position, int, int added) { Hang(position, position + added); });
+    Hang(0, document.characterCount());
   }
 
  private:
-  static constexpr qsizetype kLong = 2000;
+  enum State { kUsual = -1, kHung = 1 };  // of a block
+
+  void Hang(int from, int to) {
+    for (QTextBlock block = document_.findBlock(from); block.isValid() && block.position() <= to;
+         block = block.next()) {
+      const int tail = TailOf(block);
+      if (tail == 0 && block.userState() != kHung) continue;
+      QTextLayout::FormatRange range{block.length() - 1 - tail, tail, {}};
+      range.format.setFontLetterSpacingType(QFont::PercentageSpacing);
+      range.format.setFontLetterSpacing(1.0 / 64);  // the least that counts as a spacing
+      block.layout()->setFormats(tail == 0 ? QList<QTextLayout::FormatRange>() : QList{range});
+      block.setUserState(tail == 0 ? kUsual : kHung);
+      document_.markContentsDirty(block.position(), block.length());
+    }
+  }
+
+  // How many characters have no width; most paragraphs are too short for any.
+  static int TailOf(const QTextBlock& block) {
+    constexpr int kLong = 2000;
+    if (block.length() <= kLong) return 0;
+    const QString text = block.text();
+    const auto last = std::find_if(text.rbegin(), text.rend(), [](QChar c) { return c != u' '; });
+    const auto tail = static_cast<int>(last - text.rbegin());
+    return tail < kLong / 2 ? 0 : tail;
+  }
+
+  QTextDocument& document_;
 };
 
 // A picture that has far more dots than it is drawn with; nothing if it has not. Fine lines would
@@ -219,17 +237,28 @@ void RichTextLayout::Load(int start, int end) {
   document_.setUndoRedoEnabled(true);
 }
 
+void RichTextLayout::LoadMore(int start, int end) {
+  document_.setUndoRedoEnabled(false);
+  QTextCursor cursor(&document_);
+  cursor.movePosition(QTextCursor::End);
+  cursor.beginEditBlock();
+  Insert(cursor, start, end);
+  cursor.endEditBlock();
+  document_.setUndoRedoEnabled(true);
+}
+
 void RichTextLayout::Insert(QTextCursor& cursor, int start, int end) {
-  QString run;
+  std::u16string run;
   for (int i = start; i < end;) {
     const std::uint32_t id = text_.FormatIdAt(i);
     run.clear();
     for (; i < end && text_.FormatIdAt(i) == id; ++i) {
       const char32_t c = text_.CharacterAt(i);
       if (c == U'\n') break;
-      run.append(QChar::fromUcs4(c));
+      const auto units = QChar::fromUcs4(c);
+      run.append(units.begin(), units.end());
     }
-    if (!run.isEmpty()) cursor.insertText(run, Format(id));
+    if (!run.empty()) cursor.insertText(QStringView(run).toString(), Format(id));
     if (i < end && text_.CharacterAt(i) == U'\n' && text_.FormatIdAt(i) == id) {
       ++i;
       cursor.insertBlock(ParagraphFormat(text_.AlignmentAt(i)), Format(id));
@@ -264,12 +293,17 @@ std::optional<std::uint32_t> RichTextLayout::FormatId(const QTextCharFormat& for
   return static_cast<std::uint32_t>(format.intProperty(kFormatId));
 }
 
-QTextBlockFormat RichTextLayout::ParagraphFormat(Alignment alignment) {
-  QTextBlockFormat format;
-  if (alignment == Alignment::Left) format.setAlignment(Qt::AlignLeft | Qt::AlignAbsolute);
-  if (alignment == Alignment::Right) format.setAlignment(Qt::AlignRight | Qt::AlignAbsolute);
-  if (alignment == Alignment::Centre) format.setAlignment(Qt::AlignHCenter);
-  return format;
+const QTextBlockFormat& RichTextLayout::ParagraphFormat(Alignment alignment) {
+  const auto aligned = [](Qt::Alignment side) {
+    QTextBlockFormat format;
+    format.setAlignment(side);
+    return format;
+  };
+  static const QTextBlockFormat left = aligned(Qt::AlignLeft | Qt::AlignAbsolute);
+  static const QTextBlockFormat right = aligned(Qt::AlignRight | Qt::AlignAbsolute);
+  static const QTextBlockFormat centre = aligned(Qt::AlignHCenter);
+  if (alignment == Alignment::Right) return right;
+  return alignment == Alignment::Centre ? centre : left;
 }
 
 Alignment RichTextLayout::AlignmentOf(const QTextBlockFormat& format) {
@@ -279,8 +313,7 @@ Alignment RichTextLayout::AlignmentOf(const QTextBlockFormat& format) {
 }
 
 void RichTextLayout::HangBlanks() {
-  auto* tails = new BlankTails(&document_);  // belongs to the document
-  tails->rehighlight();
+  new BlankTails(document_);  // belongs to the document
 }
 
 // Looking for a font that isn't installed takes the system a while: once is enough.

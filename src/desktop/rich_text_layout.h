@@ -83,6 +83,8 @@ class RichTextLayout {
 
   // Replaces all that is shown by the characters from `start` to `end`. Undo forgets what was.
   void Load(int start, int end);
+  // Puts those that follow behind what Load() showed. Undo forgets what was.
+  void LoadMore(int start, int end);
   // Inserts the characters from `start` to `end` at a cursor without a selection.
   void Insert(QTextCursor& cursor, int start, int end);
 
@@ -90,7 +92,7 @@ class RichTextLayout {
   // Nothing for a format that did not come from Format().
   static std::optional<std::uint32_t> FormatId(const QTextCharFormat& format);
 
-  static QTextBlockFormat ParagraphFormat(Alignment alignment);
+  static const QTextBlockFormat& ParagraphFormat(Alignment alignment);
   static Alignment AlignmentOf(const QTextBlockFormat& format);
 
   // From now on, blanks without end behind a paragraph's last word take no line of their own.

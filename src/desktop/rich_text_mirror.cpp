@@ -113,21 +113,22 @@ void RichTextMirror::Note(int position, int end) {
 void RichTextMirror::ShowBoxSoon() {
   if (!begun_) return;
   if (!runtime_.InHandler() && !taking_) {
-    ShowBox();
+    ShowTop();
   } else if (!show_soon_) {
     show_soon_ = true;
-    QMetaObject::invokeMethod(this, &RichTextMirror::ShowBox, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &RichTextMirror::ShowTop, Qt::QueuedConnection);
   }
 }
 
-void RichTextMirror::ShowBox() {
+void RichTextMirror::Show(Extent extent) {
   if (box_ == nullptr || showing_ || taking_) return;
   show_soon_ = false;
   begun_ = true;
   const QScopedValueRollback<bool> guard(showing_, true);
   const auto difference = std::exchange(difference_, std::nullopt);
+  if (rest_ && difference) whole_ = true;  // nothing has been done with the sheet yet
   if (std::exchange(whole_, false)) {
-    LoadWhole();
+    LoadWhole(extent);
     positions_ = {};
     positions_.Replace(0, 0, box_->Length(),
                        [this](int i) { return IsWide(box_->CharacterAt(i)); });
@@ -135,16 +136,36 @@ void RichTextMirror::ShowBox() {
   } else if (difference) {
     ShowStretch(difference->before, box_->Length() - difference->behind,
                 SheetLength() - difference->behind);
+  } else if (rest_ && (extent == Extent::All || CaretEnd() >= *rest_)) {
+    LoadRest();
   }
   ShowCaret();
 }
 
-void RichTextMirror::LoadWhole() {
+void RichTextMirror::LoadWhole(Extent extent) {
   // The text would push the caret on to its end, and to draw it there have all laid out.
   sheet_.setTextCursor({});
-  layout_.Load(0, box_->Length());
+  const int end = extent == Extent::Top ? TopEnd() : box_->Length();
+  layout_.Load(0, end);
+  rest_ = end < box_->Length() ? std::optional(end) : std::nullopt;
   sheet_.setTextCursor(QTextCursor(&layout_.document()));
 }
+
+void RichTextMirror::LoadRest() {
+  layout_.LoadMore(*rest_, box_->Length());
+  rest_.reset();
+}
+
+// Behind the lines that even a large screen shows of it.
+int RichTextMirror::TopEnd() const {
+  constexpr int kMuch = 12'000;  // characters
+  for (int end = kMuch; end < box_->Length(); ++end) {
+    if (box_->CharacterAt(end - 1) == U'\n') return CaretEnd() < end ? end : box_->Length();
+  }
+  return box_->Length();
+}
+
+int RichTextMirror::CaretEnd() const { return box_->SelStart() + box_->SelLength(); }
 
 void RichTextMirror::ShowStretch(int start, int box_end, int sheet_end) {
   const Cells old = SheetCells(positions_.ToQt(start), positions_.ToQt(sheet_end));
@@ -184,7 +205,7 @@ void RichTextMirror::ShowStretch(int start, int box_end, int sheet_end) {
 
 void RichTextMirror::ShowCaret() {
   const int start = box_->SelStart();
-  const int end = start + box_->SelLength();
+  const int end = CaretEnd();
   const QTextCursor shown = sheet_.textCursor();
   if (positions_.ToQt(start) != shown.selectionStart() ||
       positions_.ToQt(end) != shown.selectionEnd()) {

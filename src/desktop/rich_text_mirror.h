@@ -41,7 +41,11 @@ class RichTextMirror : public QObject, private RichTextObserver {
   const RichTextPositions& positions() const { return positions_; }
 
   // Shows the box for the first time, or at once what a handler that still runs has done to it.
-  void ShowBox();
+  void ShowBox() { Show(Extent::All); }
+  // Like ShowBox(), but of a new document the top is enough; it has the caret. Before anything is
+  // done with the sheet, ShowBox() must show the rest.
+  void ShowTop() { Show(Extent::Top); }
+  bool HasRest() const { return rest_.has_value(); }
   // Takes the sheet's caret and selection over into the box.
   void TakeCaret();
   // A deed of the teacher's on the box, which can be undone.
@@ -63,6 +67,8 @@ class RichTextMirror : public QObject, private RichTextObserver {
     int behind;
   };
 
+  enum class Extent { Top, All };
+
   // From the box to the sheet.
   void Replaced(int position, int removed, int inserted) override;
   void Reformatted(int position, int count) override;
@@ -70,7 +76,11 @@ class RichTextMirror : public QObject, private RichTextObserver {
   void CaretMoved() override;
   void Note(int position, int end);
   void ShowBoxSoon();
-  void LoadWhole();
+  void Show(Extent extent);
+  void LoadWhole(Extent extent);
+  void LoadRest();
+  int TopEnd() const;
+  int CaretEnd() const;
   void ShowStretch(int start, int box_end, int sheet_end);
   void ShowCaret();
   void ShowCaretFormat();
@@ -91,6 +101,7 @@ class RichTextMirror : public QObject, private RichTextObserver {
   RichTextPositions positions_;
 
   std::optional<Difference> difference_;
+  std::optional<int> rest_;  // where in the box what isn't shown yet begins
   bool begun_ = false;
   bool whole_ = true;  // the box has a new document
   bool show_soon_ = false;

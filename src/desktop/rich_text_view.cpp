@@ -49,6 +49,8 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   explicit Sheet(RichTextView& view) : view_(view) {}
 
   void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override {
+    // What is seen comes first.
+    if (view_.mirror_.HasRest()) QTimer::singleShot(0, &view_, &RichTextView::Mirror);
     if (textCursor().hasSelection() && !dragged_over_) return PaintSelected(*painter, *option);
     if (hasFocus() != focus_told_) QTimer::singleShot(0, this, &Sheet::TellFocus);
     QStyleOptionGraphicsItem plain = *option;
@@ -66,7 +68,7 @@ class RichTextView::Sheet : public QGraphicsTextItem {
     if (of_focus && textCursor().hasSelection()) return true;
     if (of_focus) focus_told_ = event->type() == QEvent::FocusIn;
     if (view_.moving_caret_) return QGraphicsTextItem::sceneEvent(event);
-    view_.mirror_.ShowBox();
+    StaysAtTop(*event) ? view_.mirror_.ShowTop() : view_.mirror_.ShowBox();
     const QScopedValueRollback<bool> guard(view_.moving_caret_, true);
     const bool taken = QGraphicsTextItem::sceneEvent(event);
     view_.mirror_.TakeCaret();
@@ -115,6 +117,20 @@ class RichTextView::Sheet : public QGraphicsTextItem {
   }
 
  private:
+  // Whether an event reaches no further than what the window shows. A sheet that opens gets these
+  // before it is painted.
+  static bool StaysAtTop(const QEvent& event) {
+    switch (event.type()) {
+      case QEvent::FocusIn:
+      case QEvent::FocusOut:
+      case QEvent::WindowActivate:
+      case QEvent::WindowDeactivate:
+        return true;
+      default:
+        return false;
+    }
+  }
+
   void PaintSelected(QPainter& painter, const QStyleOptionGraphicsItem& option) {
     PaintSelection(painter, textCursor(), option.exposedRect,
                    view_.palette().color(QPalette::Highlight));
@@ -501,7 +517,7 @@ void RichTextView::PlaceFindBar() {
 }
 
 void RichTextView::showEvent(QShowEvent* event) {
-  Mirror();
+  mirror_.ShowTop();
   PaperView::showEvent(event);
 }
 

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "toolkit/code_page.h"
-#include "toolkit/run_time_error.h"
 
 namespace brindlepage {
 
@@ -78,10 +77,6 @@ Alignment ParagraphAlignment(const RichContent& content, std::size_t paragraph) 
 
 void RequireNotNegative(int number) {
   if (number < 0) throw RunTimeError(Fault::InvalidCall);
-}
-
-void RequireWithin(int position, int end) {
-  if (position < 0 || position >= end) throw RunTimeError(Fault::Subscript);
 }
 
 }  // namespace
@@ -201,20 +196,10 @@ void RichText::SelAlignment(Alignment alignment) { Align(caret_, selected_, alig
 
 // --- Reading
 
-char32_t RichText::CharacterAt(int position) const {
-  RequireWithin(position, Length());
-  return cells_[position].character;
-}
-
 const CharFormat& RichText::FormatAt(int position) const { return Format(FormatIdAt(position)); }
 
-std::uint32_t RichText::FormatIdAt(int position) const {
-  RequireWithin(position, Length());
-  return cells_[position].format;
-}
-
 Alignment RichText::AlignmentAt(int position) const {
-  RequireWithin(position, Length() + 1);
+  if (position < 0 || position > Length()) throw RunTimeError(Fault::Subscript);
   const int start = ParagraphStart(position);
   return start == 0 ? first_alignment_ : AlignmentBehind(start - 1);
 }

@@ -10,6 +10,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "toolkit/run_time_error.h"
 #include "worksheet/gap_buffer.h"
 
 namespace brindlepage {
@@ -154,10 +155,11 @@ class RichText {
   // pointers to formats hold, and ids keep their meaning, as long as the document lives.
 
   int Length() const { return cells_.Size(); }  // a line end counting one
-  char32_t CharacterAt(int position) const;     // a line end is '\n'
+  // A line end is '\n'.
+  char32_t CharacterAt(int position) const { return CellAt(position).character; }
   const CharFormat& FormatAt(int position) const;
   // Equal formats have equal ids.
-  std::uint32_t FormatIdAt(int position) const;
+  std::uint32_t FormatIdAt(int position) const { return CellAt(position).format; }
   const CharFormat& Format(std::uint32_t id) const { return *formats_[id]; }
   // Of the paragraph that holds the position, 0 to Length().
   Alignment AlignmentAt(int position) const;
@@ -233,6 +235,11 @@ class RichText {
     int count;
     int End() const { return position + count; }
   };
+
+  const Cell& CellAt(int position) const {
+    if (position < 0 || position >= Length()) throw RunTimeError(Fault::Subscript);
+    return cells_[position];
+  }
 
   std::uint32_t Intern(CharFormat format);
   std::uint32_t InternWithoutPicture(CharFormat format);
