@@ -3,6 +3,7 @@
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <algorithm>
 #include <charconv>
 #include <string_view>
@@ -291,16 +292,30 @@ class DrawnIcon : public QIconEngine {
  public:
   explicit DrawnIcon(const Drawing& drawing) : drawing_(drawing) {}
 
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    Draw(drawing_, *painter, rect, mode == QIcon::Disabled);
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+    const double ratio = painter->device()->devicePixelRatio();
+    painter->drawPixmap(rect, pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state));
   }
 
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
+  // Drawn once in each size.
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
+    const bool disabled = mode == QIcon::Disabled;
+    const QString name =
+        QString::fromUtf8(drawing_.name.data(), static_cast<qsizetype>(drawing_.name.size()));
+    const QString key = QStringLiteral("icon %1 %2 %3 %4")
+                            .arg(name)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(disabled);
+    QPixmap drawn;
+    if (QPixmapCache::find(key, &drawn)) return drawn;
+    drawn = QPixmap(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    Draw(drawing_, painter, drawn.rect(), disabled);
+    painter.end();
+    QPixmapCache::insert(key, drawn);
+    return drawn;
   }
 
   QIconEngine* clone() const override { return new DrawnIcon(drawing_); }

@@ -41,6 +41,9 @@ PaperView::PaperView(QWidget* parent) : QGraphicsView(parent) {
   setResizeAnchor(QGraphicsView::NoAnchor);
   setBackgroundRole(QPalette::Base);
   viewport()->setCursor(Qt::IBeamCursor);
+  // The paper and its ground cover it: nothing has to be painted under them.
+  viewport()->setAutoFillBackground(false);
+  viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   scene_.setItemIndexMethod(QGraphicsScene::NoIndex);
   scene_.setStickyFocus(true);
   setScene(&scene_);
