@@ -1,8 +1,12 @@
 #include <QClipboard>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
 #include <QSlider>
+#include <QToolTip>
 
 #include "desktop/text.h"
 #include "lists/add_word.h"
@@ -239,6 +243,27 @@ TEST_F(ListsDesktop, ALetterTypedAmongTheMeaningsSelectsTheWord) {
   TypeText("h");
   EXPECT_EQ(On<EditList>("EditList").WordList.ListIndex, 1);
   EXPECT_EQ(Widget<QLabel>("EditList", "DefLabel")->text(), "hot");
+}
+
+TEST_F(ListsDesktop, AMeaningThatIsTooLongIsShownWholeWhileTheMouseRestsOnIt) {
+  std::string meaning(200, 'm');
+  folder_.Write("TheLists.dat", "Planets\r\nMars\r\n" + meaning + "\r\nVenus\r\nhot\r\n");
+  Start();
+  ClickTool("Title", "Edit");
+  ClickRow("EditChooseList", "TheLists", 0);
+  Click("EditChooseList", "Command1");
+  auto* list = Widget<QListView>("EditList", "DefList");
+  // Cut, it needs no room across: the rows stay beside their words.
+  EXPECT_FALSE(list->horizontalScrollBar()->isVisible());
+  const auto rest_on = [&](int row) {
+    const QPoint place = list->visualRect(list->model()->index(row, 0)).center();
+    QHelpEvent rest(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(list->viewport(), &rest);
+    return QToolTip::text();
+  };
+  EXPECT_EQ(rest_on(0), "<p>" + QString::fromStdString(meaning) + "</p>");
+  rest_on(1);
+  EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::text().isEmpty(); }));
 }
 
 // --- Deleting.

@@ -1,14 +1,100 @@
 #include "desktop/list_view.h"
 
+#include <QAbstractItemDelegate>
 #include <QApplication>
 #include <QDateTime>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <QtMath>
+#include <algorithm>
 #include <optional>
 
+#include "desktop/style.h"
 #include "desktop/text.h"
 
 namespace brindlepage {
+
+namespace {
+
+// Pixels.
+constexpr int kAboveText = 5;
+constexpr int kBesideText = 11;
+constexpr int kMark = 20;
+constexpr int kBesideMark = 6;
+constexpr int kRound = 5;
+
+// Draws rows with one layout of each text; the library's own delegate makes five. What is too long
+// is cut, and shown whole while the mouse rests on it.
+class RowDelegate : public QAbstractItemDelegate {
+ public:
+  using QAbstractItemDelegate::QAbstractItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const int text = qCeil(QFontMetricsF(option.font).height());
+    return {0, (HasMark(index) ? std::max(text, kMark) : text) + 2 * kAboveText};
+  }
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override {
+    DrawGround(*painter, option);
+    if (HasMark(index)) DrawMark(*painter, option, index);
+    const QRect room = TextRoom(option.rect, index);
+    const QFontMetrics& font = option.fontMetrics;
+    const int baseline = room.top() + (room.height() - font.height()) / 2 + font.ascent();
+    painter->setPen(option.state & QStyle::State_Enabled ? palette::kInk : palette::kFaded);
+    painter->drawText(QPoint(room.left(), baseline),
+                      font.elidedText(Text(index), option.textElideMode, room.width()));
+  }
+
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    const bool is_cut =
+        event->type() == QEvent::ToolTip && index.isValid() &&
+        option.fontMetrics.horizontalAdvance(Text(index)) > TextRoom(option.rect, index).width();
+    // As rich text it is wrapped.
+    const QString whole = is_cut ? "<p>" + Text(index).toHtmlEscaped() + "</p>" : QString();
+    QToolTip::showText(event->globalPos(), whole, view);
+    return true;
+  }
+
+ private:
+  static QString Text(const QModelIndex& index) { return index.data(Qt::DisplayRole).toString(); }
+  static bool HasMark(const QModelIndex& index) { return index.data(Qt::CheckStateRole).isValid(); }
+  static QRect TextRoom(const QRect& row, const QModelIndex& index) {
+    const int mark = HasMark(index) ? kMark + kBesideMark : 0;
+    return row.adjusted(kBesideText + mark, 0, -kBesideText, 0);
+  }
+
+  static void DrawGround(QPainter& painter, const QStyleOptionViewItem& option) {
+    const bool selected = option.state & QStyle::State_Selected;
+    const bool hot = option.state & QStyle::State_MouseOver;
+    if (!selected && !hot) return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(selected ? palette::kMist : palette::kPaper);
+    painter.drawRoundedRect(option.rect, kRound, kRound);
+    painter.restore();
+  }
+
+  static void DrawMark(QPainter& painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) {
+    QStyleOptionViewItem mark = option;
+    mark.rect = QRect(0, 0, kMark, kMark);
+    mark.rect.moveCenter(option.rect.center());
+    mark.rect.moveLeft(option.rect.left() + kBesideText);
+    mark.state.setFlag(QStyle::State_HasFocus, false);
+    const bool on = index.data(Qt::CheckStateRole) == Qt::Checked;
+    mark.state |= on ? QStyle::State_On : QStyle::State_Off;
+    option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &mark, &painter,
+                                          option.widget);
+  }
+};
+
+}  // namespace
 
 void ListRows::TakeOver(const ListBox& box) {
   std::vector<std::string> texts;
@@ -46,6 +132,7 @@ QVariant ListRows::data(const QModelIndex& index, int role) const {
 }
 
 ListView::ListView(QWidget* parent) : QListView(parent) {
+  setItemDelegate(new RowDelegate(this));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setVerticalScrollMode(ScrollPerPixel);
