@@ -51,8 +51,8 @@ void Stopwatch::Begin(const std::string& name) {
 }
 
 Stopwatch::Moment Stopwatch::Now() const {
-  return {static_cast<double>(clock_.nsecsElapsed()) / 1e6,
-          1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC};
+  return {static_cast<double>(clock_.nsecsElapsed()) / 1e6 - looking_.time,
+          1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC - looking_.work};
 }
 
 bool Stopwatch::Rests() {
@@ -105,6 +105,9 @@ bool Stopwatch::eventFilter(QObject* watched, QEvent* event) {
       paint_coming_ = false;
       painted_ = Now();
       if (LooksChanged()) answered_ = painted_;
+      const Moment looked = Now();
+      looking_.time += looked.time - painted_.time;
+      looking_.work += looked.work - painted_.work;
     });
   }
   return false;

@@ -34,7 +34,7 @@ class Stopwatch : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Milliseconds since the stopwatch was made.
+  // Milliseconds since the stopwatch was made, but for those in which it looked itself.
   struct Moment {
     double time = 0;
     double work = 0;  // of the processor
@@ -54,6 +54,7 @@ class Stopwatch : public QObject {
   Moment began_;
   Moment answered_;
   Moment painted_;
+  Moment looking_;  // how long it has looked
   int rest_ = 0;
   bool paint_coming_ = false;
   std::set<QWidget*> being_painted_;
