@@ -102,7 +102,13 @@ void Photographer::Await(const std::string& what, const std::function<bool()>& s
 void Photographer::Settle() {
   QElapsedTimer clock;
   clock.start();
-  while (clock.elapsed() < kSettleTime) QApplication::processEvents(QEventLoop::AllEvents, 20);
+  // A window that is about to be made larger is not painted before.
+  const auto still = [this] {
+    return stage_ == nullptr || stage_->windows().main().updatesEnabled();
+  };
+  while (clock.elapsed() < kSettleTime || !still()) {
+    QApplication::processEvents(QEventLoop::AllEvents, 20);
+  }
 }
 
 void Photographer::Save(const QString& name, QWidget& window) {
