@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "core/program.h"
 #include "tests/teacher.h"
 
@@ -32,6 +34,7 @@ class Page : public ProgramForm {
   using ProgramForm::Unload;
 
   static inline std::function<void(Page&)> on_load;
+  static inline std::function<void(Page&)> on_activate;
   static inline std::function<void(Page&)> on_deactivate;
 
  private:
@@ -39,7 +42,10 @@ class Page : public ProgramForm {
     log_.push_back(Name() + " load");
     if (on_load) on_load(*this);
   }
-  void Activate() override { log_.push_back(Name() + " activate"); }
+  void Activate() override {
+    log_.push_back(Name() + " activate");
+    if (on_activate) on_activate(*this);
+  }
   void Deactivate() override {
     log_.push_back(Name() + " deactivate");
     if (on_deactivate) on_deactivate(*this);
@@ -54,6 +60,7 @@ class FormsTest : public ::testing::Test {
  protected:
   ~FormsTest() override {
     Page::on_load = nullptr;
+    Page::on_activate = nullptr;
     Page::on_deactivate = nullptr;
   }
   Page& At(Screen screen) { return *program.forms().Find<Page>(screen); }
@@ -278,6 +285,20 @@ TEST_F(FormsTest, AFormWhoseLoadFailsIsNotThereAndCanBeLoadedAnew) {
   TakeLog();
   Show(kSecond);
   EXPECT_EQ(log, (Log{"Page3 load", "Page0 deactivate", "Page3 activate"}));
+}
+
+TEST_F(FormsTest, AFormIsUnloadedEvenIfTheOneThatComesToTheFrontFails) {
+  Show(kFirst);
+  Show(kSecond);
+  Page::on_activate = [](Page&) { throw RunTimeError(Fault::InvalidCall); };
+  platform.events.clear();
+  program.Dispatch([&] {
+    EXPECT_THROW(program.forms().Unload(kSecond), RunTimeError);
+    EXPECT_EQ(program.forms().Find(kSecond), nullptr);
+  });
+  // The window system has heard of it before it is gone.
+  EXPECT_EQ(std::count(platform.events.begin(), platform.events.end(), "unloaded Page3"), 1);
+  EXPECT_EQ(log.back(), "Page3 destroyed");
 }
 
 TEST_F(FormsTest, AfterItsEndTheProgramRunsNoHandler) {

@@ -278,12 +278,14 @@ void Windows::FollowWindowState(Form& form) {
   }
 }
 
+// What is hidden or shown passes the keys on, upon which the program may take others away.
 void Windows::ShowBoxes() {
-  for (auto& [form, box] : boxes_) {
-    if (!form->Visible) box->hide();
+  for (const auto& [form, box] : std::map(boxes_)) {
+    if (boxes_.count(form) != 0 && !form->Visible) box->hide();
   }
-  for (Form* form : shown_) {
-    if (form->kind() != FormKind::Box) continue;
+  for (Form* form : std::vector(shown_)) {
+    const bool is_there = std::find(shown_.begin(), shown_.end(), form) != shown_.end();
+    if (!is_there || form->kind() != FormKind::Box) continue;
     FormWindow& box = BoxFor(*form);
     box.setWindowTitle(ToQString(form->Caption));
     box.FitToPage();

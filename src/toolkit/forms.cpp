@@ -57,7 +57,13 @@ void Forms::Unload(Screen id) {
     if (auto* timer = dynamic_cast<Timer*>(control)) timer->Enabled = false;
   }
   runtime_.timers().Arm(runtime_.platform().Now());
-  if (form.Visible) Withdraw(form);
+  try {
+    if (form.Visible) Withdraw(form);
+  } catch (...) {
+    // The one that comes to the front failed; this one goes all the same.
+    runtime_.platform().FormUnloaded(form);
+    throw;
+  }
   runtime_.platform().FormUnloaded(form);
 }
 
