@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QScrollBar>
 #include <QtTest/QTest>
 
 #include "tests/open_sheet.h"
