@@ -29,6 +29,9 @@ class Page : public ProgramForm {
   CommandButton Go{*this, "Go", "Go"};
   Timer Timer1{*this, "Timer1", 10, false};
   std::function<void()> on_click;
+  std::optional<Screen> leads_to;
+
+  std::optional<Screen> Successor() const override { return leads_to; }
 
   using ProgramForm::StepTo;
   using ProgramForm::Unload;
@@ -206,6 +209,69 @@ TEST_F(FormsTest, UnloadingAFormThatIsNotLoadedDoesNothing) {
   Show(kFirst);
   program.Dispatch([&] { program.forms().Unload(kSecond); });
   EXPECT_EQ(program.forms().Loaded().size(), 1u);
+}
+
+TEST_F(FormsTest, AFormThatIsMadeAheadIsTheOneThatIsLoaded) {
+  Show(kFirst);
+  EXPECT_EQ(program.forms().MakeAhead(), nullptr);  // it leads nowhere
+  At(kFirst).leads_to = kSecond;
+  TakeLog();
+  Form* ahead = program.forms().MakeAhead();
+  ASSERT_NE(ahead, nullptr);
+  EXPECT_EQ(ahead->id(), kSecond);
+  EXPECT_EQ(log, Log());
+  EXPECT_EQ(program.forms().Find(kSecond), nullptr);
+  EXPECT_EQ(program.forms().Loaded().size(), 1u);
+  EXPECT_EQ(program.forms().MakeAhead(), nullptr);  // it is made
+
+  Show(kSecond);
+  EXPECT_EQ(program.forms().Find(kSecond), ahead);
+  EXPECT_EQ(log, (Log{"Page3 load", "Page0 deactivate", "Page3 activate"}));
+  program.Dispatch([&] { program.forms().Activate(At(kFirst)); });
+  EXPECT_EQ(program.forms().MakeAhead(), nullptr);  // it is loaded
+}
+
+TEST_F(FormsTest, AFormThatWasMadeAheadGoesForAnother) {
+  Show(kFirst);
+  At(kFirst).leads_to = kSecond;
+  program.forms().MakeAhead();
+  At(kFirst).leads_to = kThird;
+  TakeLog();
+  platform.events.clear();
+  Form* ahead = program.forms().MakeAhead();
+  ASSERT_NE(ahead, nullptr);
+  EXPECT_EQ(ahead->id(), kThird);
+  EXPECT_EQ(log, (Log{"Page3 destroyed"}));
+  EXPECT_EQ(platform.events, (Log{"unloaded Page3"}));
+}
+
+TEST_F(FormsTest, TheTimersOfAFormThatIsMadeAheadWaitForItsLoad) {
+  Show(kFirst);
+  At(kFirst).leads_to = kSecond;
+  auto& ahead = dynamic_cast<Page&>(*program.forms().MakeAhead());
+  int ticks = 0;
+  ahead.Timer1.Tick = [&] { ++ticks; };
+  ahead.Timer1.Enabled = true;
+  const auto pass = [&](int milliseconds) {
+    platform.clock += milliseconds;
+    program.FireTimers();
+  };
+  pass(1);
+  pass(100);
+  EXPECT_EQ(ticks, 0);
+  Show(kSecond);
+  pass(9);
+  EXPECT_EQ(ticks, 0);
+  pass(1);
+  EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(FormsTest, AFormThatIsMadeAheadDoesNotKeepTheProgramAlive) {
+  Show(kFirst);
+  At(kFirst).leads_to = kSecond;
+  dynamic_cast<Page&>(*program.forms().MakeAhead()).Timer1.Enabled = true;
+  program.Dispatch([&] { At(kFirst).Unload(); });
+  EXPECT_TRUE(program.Ended());
 }
 
 TEST_F(FormsTest, TheTimersOfAnUnloadedFormStop) {

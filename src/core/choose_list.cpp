@@ -37,10 +37,10 @@ void ChooseList::Begin() {
   }
   shared.CurrentListName = TheLists.Text();
   shared.ListWordCount = list_file::CountListWords(shared.ListFilePath, shared.CurrentListName);
-  StepTo(Successor());
+  StepTo(*Successor());
 }
 
-Screen ChooseList::Successor() const {
+std::optional<Screen> ChooseList::Successor() const {
   switch (shared.ActivityKind) {
     case kRiddle:
       return Screen::ChooseRiddle;

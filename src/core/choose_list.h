@@ -21,11 +21,12 @@ class ChooseList : public ProgramForm {
   CommandButton Command1{*this, "Command1", "Begin!"};
   CommandButton Command2{*this, "Command2", "Go Back"};
 
+  std::optional<Screen> Successor() const override;
+
  private:
   void Load() override;
   void Closing() override { runtime().End(); }
   void Begin();
-  Screen Successor() const;
 };
 
 }  // namespace brindlepage

@@ -169,7 +169,7 @@ void PickWords::Done() {
     return;
   }
   shared.MarkedCount = MarkCount;
-  if (shared.ActivityKind != kCrossword) return StepTo(Successor());
+  if (const auto next = Successor()) return StepTo(*next);
   for (int i = 1; i <= shared.ListWordCount; ++i) {
     shared.CrossMarks(i) = shared.WordMarks(i) == 1 ? 1 : 0;
   }
@@ -191,8 +191,11 @@ void PickWords::StartCrossword() {
   CrossPending = true;
 }
 
-Screen PickWords::Successor() const {
+// A crossword is built by the next tick, behind this screen.
+std::optional<Screen> PickWords::Successor() const {
   switch (shared.ActivityKind) {
+    case kCrossword:
+      return std::nullopt;
     case kWordSearch:
       return Screen::QuizOptions;
     case kScramble:

@@ -31,6 +31,8 @@ class PickWords : public ProgramForm {
   // Marks all words and starts the crossword, if the list has at least two.
   void BestChoice();
 
+  std::optional<Screen> Successor() const override;
+
  private:
   void Load() override;
 
@@ -50,7 +52,6 @@ class PickWords : public ProgramForm {
 
   void Done();
   void StartCrossword();
-  Screen Successor() const;
 
   void Tick();
   bool Ask(const char* question, const char* title);

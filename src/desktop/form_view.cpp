@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -36,6 +37,7 @@ constexpr int kPageRoom = 24;
 constexpr int kBoxRoom = 24;
 constexpr int kNarrowestBox = 320;
 constexpr int kBackdropContentWidth = 900;
+constexpr int kAtLeisure = 400;       // milliseconds
 constexpr double kQuietPart = 0.605;  // of a backdrop's width
 
 template <class Kind>
@@ -118,6 +120,12 @@ void FormView::Detach() {
   focus_shown_ = nullptr;
   backdrop_ = nullptr;
   form_ = nullptr;
+}
+
+void FormView::GetReady() {
+  ensurePolished();
+  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+  layout()->activate();
 }
 
 ControlView* FormView::Find(Control& control) const {
@@ -393,6 +401,13 @@ void FormView::resizeEvent(QResizeEvent* event) {
   const int content = qMin(static_cast<int>(width() * kQuietPart) - left, kBackdropContentWidth);
   backdrop_content_->layout()->setContentsMargins(left, kPageRoom / 2, 0, kPageRoom / 2);
   backdrop_content_->setFixedWidth(left + content);
+}
+
+void FormView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  QTimer::singleShot(kAtLeisure, this, [this] {
+    for (const auto& [control, view] : views_) view->GetReady();
+  });
 }
 
 void FormView::keyPressEvent(QKeyEvent* event) {

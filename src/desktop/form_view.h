@@ -34,6 +34,9 @@ class FormView : public QWidget {
   // The form goes: nothing of it is touched after this.
   void Detach();
 
+  // Does ahead what showing it would do: styles all of it and lays it out.
+  void GetReady();
+
   // The view of the control, or null if it isn't shown.
   ControlView* Find(Control& control) const;
   // The control whose widget is `widget` or holds it, or null.
@@ -51,6 +54,7 @@ class FormView : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
 

@@ -34,7 +34,6 @@ namespace brindlepage {
 
 namespace {
 
-constexpr int kAtLeisure = 400;   // milliseconds
 constexpr int kFindBarRoom = 10;  // pixels
 
 constexpr int kColumnTwips = RichTextLayout::kColumnWidth * RichTextLayout::kTwipsPerDot;
@@ -162,8 +161,6 @@ RichTextView::RichTextView(RichTextBox& box, Runtime& runtime, QWidget* parent)
   sheet_->setDefaultTextColor(Qt::black);
   SetText(sheet_);
   connect(&mirror_, &RichTextMirror::StartShown, this, &RichTextView::ScrollToTop);
-  // A key is ready when it is asked for.
-  QTimer::singleShot(kAtLeisure, this, &RichTextView::Mirror);
 }
 
 RichTextView::~RichTextView() {

@@ -22,6 +22,7 @@ constexpr QSize kUsualSize{1000, 720};
 constexpr QSize kSmallestSize{640, 440};
 constexpr QSize kFrame{16, 40};  // about what a window's frame takes
 constexpr int kMoment = 100;     // milliseconds
+constexpr int kPause = 50;       // after which a page has been painted
 
 bool InBox() { return QApplication::activeModalWidget() != nullptr; }
 
@@ -41,8 +42,12 @@ FormWindow::FormWindow(Windows& windows, QWidget* owner, bool box)
 FormView* FormWindow::Page() const { return static_cast<FormView*>(pages_->currentWidget()); }
 
 void FormWindow::ShowPage(FormView& page) {
-  if (pages_->indexOf(&page) < 0) pages_->addWidget(&page);
+  AddPage(page);
   pages_->setCurrentWidget(&page);
+}
+
+void FormWindow::AddPage(FormView& page) {
+  if (pages_->indexOf(&page) < 0) pages_->addWidget(&page);
 }
 
 void FormWindow::FitToPage() {
@@ -104,6 +109,9 @@ Windows::Windows(Loop& loop) : loop_(loop), main_(new FormWindow(*this, nullptr,
   main_->setObjectName("MainWindow");
   QApplication::setWindowIcon(NamedIcon("program"));
   new DoubleClicks(this);
+  pause_.setSingleShot(true);
+  pause_.setInterval(kPause);
+  connect(&pause_, &QTimer::timeout, this, [this] { MakeNextPage(); });
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
   connect(qApp, &QGuiApplication::applicationStateChanged, this,
@@ -262,6 +270,16 @@ void Windows::ShowTopPage() {
     state_followed_ = form.WindowState;
     FollowWindowState(form);
   }
+  if (turned) pause_.start();
+}
+
+void Windows::MakeNextPage() {
+  if (loop_.runtime().InHandler()) return pause_.start();  // a box is open
+  Form* next = loop_.runtime().forms().MakeAhead();
+  if (next == nullptr || next->kind() != FormKind::Screen) return;
+  FormView& page = ViewFor(*next, *main_, main_->size());
+  main_->AddPage(page);
+  page.GetReady();
 }
 
 // A window that the teacher maximised stays so; one that the program did goes back.

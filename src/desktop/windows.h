@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QStackedLayout>
+#include <QTimer>
 #include <QWidget>
 #include <map>
 #include <vector>
@@ -22,6 +23,8 @@ class FormWindow : public QWidget {
   // The page on top, or null.
   FormView* Page() const;
   void ShowPage(FormView& page);
+  // Behind the others.
+  void AddPage(FormView& page);
   // As large as its page needs, and no larger.
   void FitToPage();
   // Without the page at the size before first.
@@ -82,6 +85,8 @@ class Windows : public QObject {
   void PaintNow();
 
   void FollowWindowState(Form& form);
+  // While the teacher looks at this one.
+  void MakeNextPage();
   void Place();
   FormView& ViewFor(Form& form, QWidget& window, QSize size);
   FormWindow& BoxFor(Form& form);
@@ -96,6 +101,7 @@ class Windows : public QObject {
   std::vector<ControlView*> changed_controls_;
   std::vector<Form*> changed_forms_;
   std::vector<QWidget*> dead_;
+  QTimer pause_;  // since the last page was turned to
   Form* active_shown_ = nullptr;
   QPointer<QWidget> activating_;  // asked for, and not yet in front
   int state_followed_ = kNormal;

@@ -54,8 +54,12 @@ void QuizOptions5::ProposeHeading() {
 
 void QuizOptions5::Continue() {
   shared.WorksheetTitle = Text1.Text;
-  if (WithoutList()) return StepTo(Screen::CodeForm);
-  StepTo(shared.ActivityKind == kCrossword ? Screen::CrossOption1 : Screen::PickWords);
+  StepTo(*Successor());
+}
+
+std::optional<Screen> QuizOptions5::Successor() const {
+  if (WithoutList()) return Screen::CodeForm;
+  return shared.ActivityKind == kCrossword ? Screen::CrossOption1 : Screen::PickWords;
 }
 
 void QuizOptions5::GoBack() { StepTo(WithoutList() ? Screen::RiddleOption1 : Screen::ChooseList); }

@@ -16,6 +16,8 @@ class QuizOptions5 : public ProgramForm {
   CommandButton Command1{*this, "Command1", "Continue"};
   CommandButton Command2{*this, "Command2", "Go Back"};
 
+  std::optional<Screen> Successor() const override;
+
  private:
   void Load() override;
   void Closing() override { runtime().End(); }

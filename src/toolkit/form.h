@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,6 +50,10 @@ class Form : public PropertyOwner {
   const Arrangement& arrangement() const { return arrangement_; }
   // The controls stand where their Left, Top, Width and Height put them, not in an arrangement.
   bool PlacesControls() const { return places_controls_; }
+  // From before its load until it is unloaded. No timer of another form runs.
+  bool IsLoaded() const { return loaded_; }
+  // The screen that it most likely leads to as things stand, if it can tell: that is made ahead.
+  virtual std::optional<Screen> Successor() const { return std::nullopt; }
 
   // In the order of their making. The Tab key follows the arrangement.
   const std::vector<Control*>& Controls() const { return controls_; }
@@ -99,6 +104,7 @@ class Form : public PropertyOwner {
   std::vector<Control*> controls_;
   Control* focused_ = nullptr;
   bool places_controls_ = false;
+  bool loaded_ = false;
   bool loading_ = false;
   bool show_after_load_ = false;
 };

@@ -14,8 +14,9 @@ Forms::~Forms() = default;
 
 void Forms::Load(Screen id) {
   if (Find(id) != nullptr) return;
-  loaded_.push_back(factory_(id));
+  loaded_.push_back(Make(id));
   Form& form = *loaded_.back();
+  form.loaded_ = true;
   form.loading_ = true;
   try {
     form.Load();
@@ -26,6 +27,20 @@ void Forms::Load(Screen id) {
   }
   form.loading_ = false;
   if (form.show_after_load_ && Find(id) == &form) Show(id);
+}
+
+std::unique_ptr<Form> Forms::Make(Screen id) {
+  return ahead_ != nullptr && ahead_->id() == id ? std::move(ahead_) : factory_(id);
+}
+
+Form* Forms::MakeAhead() {
+  const auto next = active_ == nullptr ? std::nullopt : active_->Successor();
+  if (!next || Find(*next) != nullptr || (ahead_ != nullptr && ahead_->id() == *next)) {
+    return nullptr;
+  }
+  if (ahead_ != nullptr) runtime_.platform().FormUnloaded(*ahead_);
+  ahead_ = factory_(*next);
+  return ahead_.get();
 }
 
 void Forms::Show(Screen id) {
@@ -53,9 +68,7 @@ void Forms::Unload(Screen id) {
   Form& form = **place;
   unloaded_.push_back(std::move(*place));
   loaded_.erase(place);
-  for (Control* control : form.Controls()) {
-    if (auto* timer = dynamic_cast<Timer*>(control)) timer->Enabled = false;
-  }
+  form.loaded_ = false;
   runtime_.timers().Arm(runtime_.platform().Now());
   try {
     if (form.Visible) Withdraw(form);

@@ -21,6 +21,9 @@ class Forms {
 
   // A form whose load throws is unloaded again.
   void Load(Screen id);
+  // Makes the form that the active one leads to, so that its load finds it made. Null if there is
+  // nothing to make. One at most is kept; it counts for nothing until it is loaded.
+  Form* MakeAhead();
   // Loads the form if need be, makes it visible and active. A form that unloaded itself in its
   // load is not shown; one that shows itself there comes up when the load is done.
   void Show(Screen id);
@@ -62,6 +65,7 @@ class Forms {
   void BuryUnloaded() { unloaded_.clear(); }
 
  private:
+  std::unique_ptr<Form> Make(Screen id);
   void SetActive(Form* form);
   void Withdraw(Form& form);
 
@@ -69,6 +73,7 @@ class Forms {
   Factory factory_;
   std::vector<std::unique_ptr<Form>> loaded_;
   std::vector<std::unique_ptr<Form>> unloaded_;
+  std::unique_ptr<Form> ahead_;
   std::vector<Form*> shown_;  // the one shown last is at the back
   Form* active_ = nullptr;
 };

@@ -18,7 +18,8 @@ Timer::~Timer() { form().runtime().timers().Remove(*this); }
 
 void TimerQueue::Arm(Milliseconds now) {
   for (Timer* timer : timers_) {
-    const int wanted = timer->Enabled ? std::max(0, timer->Interval()) : 0;
+    const bool runs = timer->form().IsLoaded() && timer->Enabled;
+    const int wanted = runs ? std::max(0, timer->Interval()) : 0;
     if (wanted == timer->armed_) continue;
     timer->armed_ = wanted;
     timer->due_ = now + wanted;

@@ -34,7 +34,7 @@ void PuzzleSize::ShowSize() {
 void PuzzleSize::Continue() {
   shared.PuzzleAcross = VScrollx.Value();
   shared.PuzzleDown = VScrolly.Value();
-  StepTo(Screen::WordSearchForm);
+  StepTo(*Successor());
 }
 
 }  // namespace brindlepage

@@ -23,6 +23,8 @@ class PuzzleSize : public ProgramForm {
   CommandButton Command1{*this, "Command1", "OK"};
   CommandButton Command2{*this, "Command2", "Go Back"};
 
+  std::optional<Screen> Successor() const override { return Screen::WordSearchForm; }
+
  private:
   void Load() override;
   void ShowSize();

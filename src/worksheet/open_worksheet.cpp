@@ -30,7 +30,7 @@ void OpenWorksheet::Load() {
 void OpenWorksheet::OpenChosen() {
   shared.SavedWorksheetName = File1.FileName();
   shared.ActivityKind = kSavedWorksheet;
-  StepTo(Screen::QuizForm);
+  StepTo(*Successor());
 }
 
 }  // namespace brindlepage

@@ -15,6 +15,8 @@ class OpenWorksheet : public ProgramForm {
   CommandButton Command1{*this, "Command1", "Open Worksheet"};
   CommandButton Command2{*this, "Command2", "Cancel"};
 
+  std::optional<Screen> Successor() const override { return Screen::QuizForm; }
+
  private:
   void Load() override;
   void OpenChosen();
