@@ -287,17 +287,19 @@ TEST_F(ListsDesktop, TheQuestionStandsOnTheScreenAndTheKeysAreAtNo) {
 // --- The word processor.
 
 TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
-  std::filesystem::create_directory("programs");
+  std::filesystem::create_directories("programs/zoo");
   folder_.Write("programs/notes.txt", "not a program");
-  folder_.Write("programs/writer", "a program");
-  std::filesystem::permissions("programs/writer", std::filesystem::perms::owner_all);
+  for (const char* name : {"programs/writer", "programs/typist"}) {
+    folder_.Write(name, "a program");
+    std::filesystem::permissions(name, std::filesystem::perms::owner_all);
+  }
   const QString writer = QDir("programs").absoluteFilePath("writer");
   Start();
   ClickTool("Title", "Opts");
   Click("ProgramOptions", "Command5");
   EXPECT_FALSE(Widget<QAbstractButton>("QuickWordOption", "Checks1")->isChecked());
   QString title, start;
-  QStringList offered;
+  QStringList offered, kinds;
   OnBoxes([&](QDialog& box) {
     auto* dialog = qobject_cast<QFileDialog*>(&box);
     if (dialog == nullptr) return QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
@@ -311,7 +313,9 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
       return dialog->setDirectory("programs");
     }
     for (int row = 0; row < shown->model()->rowCount(root); ++row) {
+      constexpr int kKind = 2;
       offered << shown->model()->index(row, 0, root).data().toString();
+      kinds << shown->model()->index(row, kKind, root).data().toString();
     }
     dialog->findChild<QLineEdit*>("fileNameEdit")->setText("writer");
     static_cast<QDialog*>(dialog)->accept();
@@ -320,7 +324,8 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
   Settle(300);
   EXPECT_EQ(title, "Find Word processor");
   EXPECT_EQ(start, "/usr/bin");
-  EXPECT_EQ(offered, QStringList{"writer"});
+  EXPECT_EQ(offered, QStringList({"zoo", "typist", "writer"}));
+  EXPECT_EQ(kinds, QStringList({"Folder", "Program", "Program"}));
   EXPECT_TRUE(Widget<QAbstractButton>("QuickWordOption", "Checks1")->isChecked());
   Click("QuickWordOption", "Command1");
   Settle(300);

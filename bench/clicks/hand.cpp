@@ -121,7 +121,7 @@ QWidget& Hand::Widget(const std::string& form_name, const std::string& name, int
 }
 
 void Hand::Measure(const std::string& what, HowLong how_long, const std::function<void()>& click) {
-  constexpr int kRest = 60;
+  constexpr int kRest = 60;  // in which the next page is made; nobody clicks faster
   ++clicks_;
   const std::string place = (clicks_ < 10 ? " 0" : " ") + std::to_string(clicks_) + " ";
   const std::string name = walk_ + place + what + (how_long == kLong ? " [long]" : "");

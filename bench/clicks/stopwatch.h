@@ -12,7 +12,8 @@
 // Measures how long a window takes to answer: from the click to the moment at which the last
 // thing that it changed has been painted and the program rests. A painting that leaves every dot
 // as it was changes nothing, and neither does a scroll bar that learns how long a document is. A
-// message box is an answer too; what it waits for is the next click, on its first button.
+// message box is an answer too; what it waits for is the next click, on its first button. A file
+// dialog has answered when it stands there; the folder that it then goes on reading may be large.
 class Stopwatch : public QObject {
  public:
   // Milliseconds, the best of all rounds.
