@@ -26,8 +26,8 @@ class ControlView : public QObject {
   // Brings the widget up to the control's state.
   void Sync();
   virtual void Detach() { control_ = nullptr; }
-  // Does what need not wait until it is seen. Called a while after its page came up.
-  virtual void GetReady() {}
+  // Called a while after the page came up: what isn't seen yet has its widget filled all the same.
+  virtual void FillHidden() {}
 
   // Set by Sync, cleared by whoever learns of a change.
   bool in_sync = false;

@@ -108,7 +108,7 @@ class RichTextBoxView : public ViewOf<RichTextBox> {
     if (control() != nullptr) view().Leave();
     ControlView::Detach();
   }
-  void GetReady() override { view().Mirror(); }
+  void FillHidden() override { view().Mirror(); }
 
  protected:
   void SyncState() override {}

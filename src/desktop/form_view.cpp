@@ -122,7 +122,7 @@ void FormView::Detach() {
   form_ = nullptr;
 }
 
-void FormView::GetReady() {
+void FormView::PrepareToShow() {
   ensurePolished();
   for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
   layout()->activate();
@@ -406,7 +406,7 @@ void FormView::resizeEvent(QResizeEvent* event) {
 void FormView::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   QTimer::singleShot(kAtLeisure, this, [this] {
-    for (const auto& [control, view] : views_) view->GetReady();
+    for (const auto& [control, view] : views_) view->FillHidden();
   });
 }
 

@@ -34,8 +34,8 @@ class FormView : public QWidget {
   // The form goes: nothing of it is touched after this.
   void Detach();
 
-  // Does ahead what showing it would do: styles all of it and lays it out.
-  void GetReady();
+  // Does ahead what showing it would: styles all of it and lays it out.
+  void PrepareToShow();
 
   // The view of the control, or null if it isn't shown.
   ControlView* Find(Control& control) const;

@@ -279,7 +279,7 @@ void Windows::MakeNextPage() {
   if (next == nullptr || next->kind() != FormKind::Screen) return;
   FormView& page = ViewFor(*next, *main_, main_->size());
   main_->AddPage(page);
-  page.GetReady();
+  page.PrepareToShow();
 }
 
 // A window that the teacher maximised stays so; one that the program did goes back.
