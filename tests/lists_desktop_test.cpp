@@ -300,6 +300,7 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
   EXPECT_FALSE(Widget<QAbstractButton>("QuickWordOption", "Checks1")->isChecked());
   QString title, start;
   QStringList offered, kinds;
+  int looks = 0;
   OnBoxes([&](QDialog& box) {
     auto* dialog = qobject_cast<QFileDialog*>(&box);
     if (dialog == nullptr) return QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
@@ -312,6 +313,9 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
       start = dialog->directory().path();
       return dialog->setDirectory("programs");
     }
+    // By and by, and put in order when all of it is there.
+    constexpr int kEnough = 10;
+    if (++looks < kEnough) return;
     for (int row = 0; row < shown->model()->rowCount(root); ++row) {
       constexpr int kKind = 2;
       offered << shown->model()->index(row, 0, root).data().toString();
