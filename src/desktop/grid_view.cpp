@@ -2,10 +2,13 @@
 
 #include <QBuffer>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <QShowEvent>
 #include <algorithm>
-#include <cmath>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "desktop/picture_view.h"
 #include "desktop/rich_text_layout.h"
@@ -70,31 +73,61 @@ void PaintBackground(QPainter& painter, const Form& form, const QRectF& room) {
   });
 }
 
-void PaintText(QPainter& painter, const Label& box, const QRect& inside, double dots_per_twip) {
+// The fonts of a grid and what its texts take in them: it has hundreds of boxes, but few of these.
+class Lettering {
+ public:
+  // The font of that name and height, in dots, or a lower one in which the text is no wider than
+  // the room: a number of three digits stays in its box.
+  const QFont& Fitting(const std::string& name, int height, const QString& text, int room) {
+    Face& usual = FaceOf(name, height);
+    auto width = usual.widths.find(text);
+    if (width == usual.widths.end()) {
+      width = usual.widths.insert(text, QFontMetricsF(usual.font).horizontalAdvance(text));
+    }
+    if (*width <= room) return usual.font;
+    return FaceOf(name, static_cast<int>(usual.font.pixelSize() * room / *width)).font;
+  }
+
+ private:
+  struct Face {
+    QFont font;
+    QHash<QString, double> widths;
+  };
+
+  Face& FaceOf(const std::string& name, int height) {
+    const auto [face, is_new] = faces_.try_emplace({name, std::max(1, height)});
+    if (is_new) {
+      QFont& font = face->second.font;
+      font.setFamilies(ShownFamilies(ToQString(name)));
+      font.setStyleStrategy(QFont::PreferAntialias);
+      font.setPixelSize(std::max(1, height));
+    }
+    return face->second;
+  }
+
+  std::map<std::pair<std::string, int>, Face> faces_;
+};
+
+void PaintText(QPainter& painter, Lettering& lettering, const Label& box, const QRect& inside,
+               double dots_per_twip) {
   const QString text = ToQString(box.Caption);
   if (text.trimmed().isEmpty()) return;
-  QFont font(ShownFamilies(ToQString(box.FontName)));
-  font.setStyleStrategy(QFont::PreferAntialias);
-  font.setPixelSize(std::max(1, qRound(TextHeight(box) * dots_per_twip)));
-  // A number of three digits is no wider than its box.
-  const double width = QFontMetricsF(font).horizontalAdvance(text);
-  if (width > inside.width()) {
-    font.setPixelSize(std::max(1, static_cast<int>(font.pixelSize() * inside.width() / width)));
-  }
-  painter.setFont(font);
+  const int height = qRound(TextHeight(box) * dots_per_twip);
+  painter.setFont(lettering.Fitting(box.FontName, height, text, inside.width()));
   painter.setPen(Qt::black);
   constexpr Qt::Alignment kSides[] = {Qt::AlignLeft | Qt::AlignTop, Qt::AlignRight | Qt::AlignTop,
                                       Qt::AlignCenter};
   painter.drawText(inside, static_cast<int>(kSides[qBound(0, box.Alignment(), 2)]), text);
 }
 
-void PaintBox(QPainter& painter, const Label& box, const Scale& scale, double around) {
+void PaintBox(QPainter& painter, Lettering& lettering, const Label& box, const Scale& scale,
+              double around) {
   const QRect outside = scale.Dots(box, around);
   const int border = std::max(1, qRound(kBorder * scale.DotsPerTwip()));
   const QRect inside = outside.adjusted(border, border, -border, -border);
   painter.fillRect(outside, Qt::black);
   painter.fillRect(inside, ToColour(box.BackColor));
-  PaintText(painter, box, inside, scale.DotsPerTwip());
+  PaintText(painter, lettering, box, inside, scale.DotsPerTwip());
 }
 
 // Where no colour shows between the boxes, neighbours share a line.
@@ -107,8 +140,9 @@ double RoomAround(const Form& form) {
 
 void PaintBoxes(QPainter& painter, const Form& form, const Scale& scale) {
   const double around = RoomAround(form);
+  Lettering lettering;
   ForEachLabel(form, [&](const Label& label) {
-    if (label.BorderStyle != 0) PaintBox(painter, label, scale, around);
+    if (label.BorderStyle != 0) PaintBox(painter, lettering, label, scale, around);
   });
 }
 
