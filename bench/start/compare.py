@@ -30,6 +30,8 @@ def display():
     if os.environ.get("DISPLAY"):
         yield os.environ["DISPLAY"]
         return
+    if shutil.which("Xvfb") is None:
+        sys.exit("This takes a display, or Xvfb (the package xvfb).")
     server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"],
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
     try:

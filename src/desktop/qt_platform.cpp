@@ -33,6 +33,15 @@ namespace {
 
 constexpr Milliseconds kShortestPause = 10;
 
+// A file dialog's end waits until the system watches its folder no more: not before what comes
+// next is painted.
+struct DeleteLater {
+  void operator()(QFileDialog* dialog) const {
+    constexpr int kMoment = 100;  // milliseconds
+    QTimer::singleShot(kMoment, dialog, &QObject::deleteLater);
+  }
+};
+
 // "Programs (*.exe)|*.exe|Pictures|*.bmp;*.jpg" as Qt writes it.
 QString ToQtFilter(std::string_view filter) {
   const QStringList parts = ToQString(filter).split('|');
@@ -196,16 +205,17 @@ void QtPlatform::Print(Control& box, int start, int length) {
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::string_view filter,
                                                   std::string_view folder) {
-  QFileDialog dialog(windows_.Front(), ToQString(title));
-  dialog.setFileMode(QFileDialog::ExistingFile);
+  const std::unique_ptr<QFileDialog, DeleteLater> dialog(
+      new QFileDialog(windows_.Front(), ToQString(title)));
+  dialog->setFileMode(QFileDialog::ExistingFile);
   if (AsksForPrograms(filter)) {
-    OfferPrograms(dialog);
+    OfferPrograms(*dialog);
   } else {
-    if (!filter.empty()) dialog.setNameFilter(ToQtFilter(filter));
-    if (!folder.empty()) dialog.setDirectory(NativeName(folder));
+    if (!filter.empty()) dialog->setNameFilter(ToQtFilter(filter));
+    if (!folder.empty()) dialog->setDirectory(NativeName(folder));
   }
-  if (!Run(dialog) || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return FileName(dialog.selectedFiles().front());
+  if (!Run(*dialog) || dialog->selectedFiles().isEmpty()) return std::nullopt;
+  return FileName(dialog->selectedFiles().front());
 }
 
 void QtPlatform::StartProgram(std::string_view command_line) {
