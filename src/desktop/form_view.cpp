@@ -125,7 +125,7 @@ void FormView::Detach() {
 void FormView::PrepareToShow() {
   ensurePolished();
   for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
-  layout()->activate();
+  grab();  // lays it out, and leaves the letters and icons that it draws with the library
 }
 
 ControlView* FormView::Find(Control& control) const {

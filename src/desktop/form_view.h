@@ -34,7 +34,7 @@ class FormView : public QWidget {
   // The form goes: nothing of it is touched after this.
   void Detach();
 
-  // Does ahead what showing it would: styles all of it and lays it out.
+  // Does ahead what showing it would: styles it, lays it out, draws its letters and icons.
   void PrepareToShow();
 
   // The view of the control, or null if it isn't shown.
