@@ -339,5 +339,31 @@ TEST_F(ListsDesktop, TheDialogForAWordProcessorOffersProgramsOfTheSystem) {
             "Brindlepage settings\r\n2.3\r\n" + FromQString(writer) + "\r\nlistpath\r\n");
 }
 
+TEST_F(ListsDesktop, TheDialogForAWordProcessorIsMadeBeforeItIsAskedFor) {
+  Start();
+  ClickTool("Title", "Opts");
+  EXPECT_EQ(main().findChild<QFileDialog*>(), nullptr);
+  Click("ProgramOptions", "Command5");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return main().findChild<QFileDialog*>() != nullptr; }));
+  const auto* ahead = main().findChild<QFileDialog*>();
+  EXPECT_TRUE(ahead->isHidden());
+  QList<const QFileDialog*> opened;
+  OnBoxes([&](QDialog& box) {
+    if (const auto* dialog = qobject_cast<QFileDialog*>(&box)) {
+      opened << dialog;
+      EXPECT_EQ(dialog->windowTitle(), "Find Word processor");
+      return box.reject();
+    }
+    QTest::mouseClick(box.findChild<QPushButton*>(), Qt::LeftButton);
+  });
+  for (int times : {1, 2}) {
+    Click("QuickWordOption", "Label1");
+    EXPECT_EQ(opened.size(), times);
+    EXPECT_FALSE(Widget<QAbstractButton>("QuickWordOption", "Checks1")->isChecked());
+  }
+  EXPECT_EQ(opened[0], ahead);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return main().findChild<QFileDialog*>() == nullptr; }));
+}
+
 }  // namespace
 }  // namespace brindlepage

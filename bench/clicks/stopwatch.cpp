@@ -83,6 +83,7 @@ void Stopwatch::AnswerBox() {
 bool Stopwatch::LooksChanged() {
   bool changed = false;
   for (QWidget* window : std::exchange(being_painted_, {})) {
+    if (!window->isVisible()) continue;  // made ahead
     const bool reads_on = qobject_cast<QFileDialog*>(window) != nullptr && seen_.count(window) != 0;
     if (reads_on) continue;
     QImage seen = Dots(*window);

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QGroupBox>
@@ -203,17 +202,37 @@ void QtPlatform::Print(Control& box, int start, int length) {
   }
 }
 
-std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::string_view filter,
-                                                  std::string_view folder) {
-  const std::unique_ptr<QFileDialog, DeleteLater> dialog(
-      new QFileDialog(windows_.Front(), ToQString(title)));
+QFileDialog* QtPlatform::MakeOpenDialog(std::string_view filter) {
+  auto* dialog = new QFileDialog(windows_.Front());
   dialog->setFileMode(QFileDialog::ExistingFile);
   if (AsksForPrograms(filter)) {
     OfferPrograms(*dialog);
-  } else {
-    if (!filter.empty()) dialog->setNameFilter(ToQtFilter(filter));
-    if (!folder.empty()) dialog->setDirectory(NativeName(folder));
+  } else if (!filter.empty()) {
+    dialog->setNameFilter(ToQtFilter(filter));
   }
+  return dialog;
+}
+
+// Thousands of programs take a while to list; the desktop's own dialogs have a process of their
+// own for that.
+void QtPlatform::ExpectOpenDialog(std::string_view filter) {
+  if (!AsksForPrograms(filter)) return;
+  constexpr int kPause = 50;  // milliseconds, until the screen that asks has been painted
+  QTimer::singleShot(kPause, this, [this, wanted = std::string(filter)] {
+    if (programs_ != nullptr || loop_.runtime().InHandler()) return;
+    programs_ = MakeOpenDialog(wanted);
+    programs_->grab();  // which styles it and lays it out
+  });
+}
+
+std::optional<std::string> QtPlatform::OpenDialog(std::string_view title, std::string_view filter,
+                                                  std::string_view folder) {
+  const bool for_programs = AsksForPrograms(filter);
+  const QPointer<QFileDialog> ahead = for_programs ? std::exchange(programs_, nullptr) : nullptr;
+  const std::unique_ptr<QFileDialog, DeleteLater> dialog(ahead != nullptr ? ahead.data()
+                                                                          : MakeOpenDialog(filter));
+  dialog->setWindowTitle(ToQString(title));
+  if (!for_programs && !folder.empty()) dialog->setDirectory(NativeName(folder));
   if (!Run(*dialog) || dialog->selectedFiles().isEmpty()) return std::nullopt;
   return FileName(dialog->selectedFiles().front());
 }

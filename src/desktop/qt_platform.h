@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QFileDialog>
 #include <QObject>
+#include <QPointer>
 #include <memory>
 
 #include "desktop/loop.h"
@@ -26,6 +28,7 @@ class QtPlatform : public QObject, public Platform {
   void Print(Control& box, int start, int length) override;
   std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
                                         std::string_view folder) override;
+  void ExpectOpenDialog(std::string_view filter) override;
   void StartProgram(std::string_view command_line) override;
   bool CanShow(const Picture& picture) override;
   void Beep() override;
@@ -54,10 +57,12 @@ class QtPlatform : public QObject, public Platform {
   void PrepareForBox();
   bool Run(QDialog& dialog);
   QPrinter& Printer();
+  QFileDialog* MakeOpenDialog(std::string_view filter);
 
   Loop& loop_;
   Windows& windows_;
   std::unique_ptr<QPrinter> printer_;  // the one chosen last
+  QPointer<QFileDialog> programs_;     // made ahead
 };
 
 }  // namespace brindlepage

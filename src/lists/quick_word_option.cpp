@@ -6,6 +6,10 @@
 
 namespace brindlepage {
 
+namespace {
+constexpr char kPrograms[] = "Programs (*.exe)|*.exe";
+}
+
 QuickWordOption::QuickWordOption(Program& owner)
     : ProgramForm(owner, Screen::QuickWordOption, "QuickWordOption", "Quick Word Option") {
   Command1.Default = true;
@@ -22,6 +26,7 @@ void QuickWordOption::Load() {
   OptionsList.AddItems(files::ReadAllLines(SettingsPath()));
   ProcessorPath = OptionsList.List(settings_file::kWordProcessorLine);
   if (ProcessorPath == settings_file::kNoWordProcessor) Checks1.Value = false;
+  runtime().platform().ExpectOpenDialog(kPrograms);
 }
 
 // Checked without a program found, the box does not stay so.
@@ -36,8 +41,7 @@ void QuickWordOption::Checked() {
 // A cancelled dialog keeps the file name from before.
 void QuickWordOption::FindProgram() {
   try {
-    const auto chosen =
-        runtime().OpenDialog("Find Word processor", "Programs (*.exe)|*.exe", "c:\\");
+    const auto chosen = runtime().OpenDialog("Find Word processor", kPrograms, "c:\\");
     if (chosen) FoundProgram = *chosen;
   } catch (const RunTimeError&) {
     Checks1.Value = false;

@@ -55,6 +55,8 @@ class Platform {
   // The chosen file's name, or nothing when cancelled. The filter is "Programs (*.exe)|*.exe".
   virtual std::optional<std::string> OpenDialog(std::string_view title, std::string_view filter,
                                                 std::string_view folder) = 0;
+  // The program will probably ask for such a file soon: its dialog may be made ahead.
+  virtual void ExpectOpenDialog(std::string_view filter) { static_cast<void>(filter); }
   // Starts a program and does not wait for it. Throws RunTimeError 53 if it can't be started.
   virtual void StartProgram(std::string_view command_line) = 0;
   virtual void Beep() = 0;
