@@ -440,6 +440,15 @@ TEST(RtfReader, AbsurdPictureSizesAreCut) {
   EXPECT_EQ(PictureOf(sheet).height, 100000);
 }
 
+TEST(RtfReader, ABitmapOfBillionsOfDotsScaledBeyondAllMeasureIsCut) {
+  const Sheet sheet(
+      PictureFile("{\\pict\\dibitmap0\\picscalex2147483647\\picscaley2147483647 "
+                  "28000000FFFFFF7F333333330100180000000000000000000000000000000000000000000000"
+                  "0000}"));
+  EXPECT_EQ(PictureOf(sheet).width, 100000);
+  EXPECT_EQ(PictureOf(sheet).height, 100000);
+}
+
 TEST(RtfReader, ABitmapGetsTheHeaderOfItsFile) {
   // Two colours: 40 bytes of head, 8 of palette, a row of dots.
   const std::string head =

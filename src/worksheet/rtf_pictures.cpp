@@ -179,6 +179,12 @@ int Side(std::int64_t twips) {
   return static_cast<int>(std::clamp<std::int64_t>(twips, 1, kLongestPictureSide));
 }
 
+// A bitmap may claim billions of dots, and the file to show them a million times as large.
+int ScaledSide(std::int64_t twips, int per_cent) {
+  constexpr std::int64_t kEnough = 100 * std::int64_t{kLongestPictureSide};
+  return Side(std::min(twips, kEnough) * std::max(per_cent, 1) / 100);
+}
+
 int FileSide(std::int64_t twips, bool metafile) {
   const std::int64_t side =
       metafile ? twips * kHundredthsOfMillimetrePerInch / kTwipsPerInch : twips / kTwipsPerPixel;
@@ -238,8 +244,8 @@ std::shared_ptr<const RichPicture> PictureFromRtf(RtfPicture&& told) {
 
   const Size size = ShownSize(told);
   auto picture = std::make_shared<RichPicture>();
-  picture->width = Side(size.width * std::max(told.scale_width, 1) / 100);
-  picture->height = Side(size.height * std::max(told.scale_height, 1) / 100);
+  picture->width = ScaledSide(size.width, told.scale_width);
+  picture->height = ScaledSide(size.height, told.scale_height);
   picture->bytes = told.header ? std::move(*told.header)
                                : HeaderOf(told.format, told.data, picture->width, picture->height);
   if (picture->bytes.empty()) {
