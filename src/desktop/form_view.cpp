@@ -123,8 +123,7 @@ void FormView::Detach() {
 }
 
 void FormView::PrepareToShow() {
-  ensurePolished();
-  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+  PolishAll(*this);
   grab();  // lays it out, and leaves the letters and icons that it draws with the library
 }
 

@@ -15,7 +15,9 @@
 #include <QThread>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
+#include "desktop/after_painting.h"
 #include "desktop/boxes.h"
 #include "desktop/command_line.h"
 #include "desktop/decode_picture.h"
@@ -32,13 +34,9 @@ namespace {
 
 constexpr Milliseconds kShortestPause = 10;
 
-// A file dialog's end waits until the system watches its folder no more: not before what comes
-// next is painted.
+// A file dialog's end waits until the system watches its folder no more.
 struct DeleteLater {
-  void operator()(QFileDialog* dialog) const {
-    constexpr int kMoment = 100;  // milliseconds
-    QTimer::singleShot(kMoment, dialog, &QObject::deleteLater);
-  }
+  void operator()(QFileDialog* dialog) const { DeleteAfterPainting(dialog); }
 };
 
 // "Programs (*.exe)|*.exe|Pictures|*.bmp;*.jpg" as Qt writes it.
@@ -217,8 +215,7 @@ QFileDialog* QtPlatform::MakeOpenDialog(std::string_view filter) {
 // own for that.
 void QtPlatform::ExpectOpenDialog(std::string_view filter) {
   if (!AsksForPrograms(filter)) return;
-  constexpr int kPause = 50;  // milliseconds, until the screen that asks has been painted
-  QTimer::singleShot(kPause, this, [this, wanted = std::string(filter)] {
+  QTimer::singleShot(kUntilPainted, this, [this, wanted = std::string(filter)] {
     if (programs_ != nullptr || loop_.runtime().InHandler()) return;
     programs_ = MakeOpenDialog(wanted);
     programs_->grab();  // which styles it and lays it out

@@ -294,6 +294,11 @@ void ApplyStyle(QApplication& application) {
   application.installEventFilter(new AltWatcher(application, *style));
 }
 
+void PolishAll(QWidget& widget) {
+  widget.ensurePolished();
+  for (QWidget* part : widget.findChildren<QWidget*>()) part->ensurePolished();
+}
+
 void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value) {
   if (widget.property(name) == value) return;
   widget.setProperty(name, value);

@@ -26,6 +26,9 @@ inline constexpr QColor kFaded{0xa9, 0xac, 0xb0};  // what can't be used now
 // The letters that work with Alt are underlined while Alt is held.
 void ApplyStyle(QApplication& application);
 
+// Styles the widget and all that stands on it, as showing it would.
+void PolishAll(QWidget& widget);
+
 // Sets a property that the style sheet looks at.
 void SetStyleProperty(QWidget& widget, const char* name, const QVariant& value);
 

@@ -9,8 +9,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/after_painting.h"
 #include "desktop/double_clicks.h"
 #include "desktop/icons.h"
+#include "desktop/style.h"
 #include "desktop/text.h"
 #include "toolkit/controls.h"
 
@@ -22,7 +24,6 @@ constexpr QSize kUsualSize{1000, 720};
 constexpr QSize kSmallestSize{640, 440};
 constexpr QSize kFrame{16, 40};  // about what a window's frame takes
 constexpr int kMoment = 100;     // milliseconds
-constexpr int kPause = 50;       // after which a page has been painted
 
 bool InBox() { return QApplication::activeModalWidget() != nullptr; }
 
@@ -52,8 +53,7 @@ void FormWindow::AddPage(FormView& page) {
 
 void FormWindow::FitToPage() {
   // The style's fonts and margins count.
-  ensurePolished();
-  for (QWidget* part : findChildren<QWidget*>()) part->ensurePolished();
+  PolishAll(*this);
   const QLayout& content = *Page()->layout();
   QSize fit = content.totalSizeHint().expandedTo(Page()->minimumSize());
   if (content.hasHeightForWidth()) fit.setHeight(content.totalHeightForWidth(fit.width()));
@@ -110,7 +110,7 @@ Windows::Windows(Loop& loop) : loop_(loop), main_(new FormWindow(*this, nullptr,
   QApplication::setWindowIcon(NamedIcon("program"));
   new DoubleClicks(this);
   pause_.setSingleShot(true);
-  pause_.setInterval(kPause);
+  pause_.setInterval(kUntilPainted);
   connect(&pause_, &QTimer::timeout, this, [this] { MakeNextPage(); });
   connect(qApp, &QApplication::focusChanged, this,
           [this](QWidget*, QWidget* now) { FocusMoved(now); });
@@ -276,7 +276,7 @@ void Windows::ShowTopPage() {
 void Windows::MakeNextPage() {
   if (loop_.runtime().InHandler()) return pause_.start();  // a box is open
   Form* next = loop_.runtime().forms().MakeAhead();
-  if (next == nullptr || next->kind() != FormKind::Screen) return;
+  if (next == nullptr) return;
   FormView& page = ViewFor(*next, *main_, main_->size());
   main_->AddPage(page);
   page.PrepareToShow();
@@ -347,8 +347,7 @@ void Windows::ShowFocus() {
 void Windows::Bury() {
   for (QWidget* widget : std::exchange(dead_, {})) {
     widget->hide();
-    // To clear a long document away takes a while: not before what comes next is painted.
-    QTimer::singleShot(kMoment, widget, &QObject::deleteLater);
+    DeleteAfterPainting(widget);  // it may have a long document
   }
 }
 
